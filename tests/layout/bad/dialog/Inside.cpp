@@ -1,0 +1,1 @@
+#include "graphics_panel/GraphicsPDE.h"

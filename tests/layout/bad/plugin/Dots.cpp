@@ -1,0 +1,1 @@
+#include "plugin/../graphics_panel/GraphicsPDE.h"
