@@ -175,7 +175,11 @@ std::optional<qsizetype> encodedLength(const QString &text, TextEncoding encodin
     if (!converter) {
         return std::nullopt;
     }
-    const QString composed = withMarksComposed(text);
+    QString composed = withMarksComposed(text);
+    if (encoding == TextEncoding::MacRoman) {
+        // Its omega may be spelled as the unit of resistance; the library knows the letter only.
+        composed.replace(QChar(0x2126), QChar(0x03A9));
+    }
     QByteArray room(4 * composed.size() + 8, Qt::Uninitialized);
     UErrorCode error = U_ZERO_ERROR;
     const int32_t length = ucnv_fromUChars(converter.get(), room.data(), int32_t(room.size()),
