@@ -99,11 +99,43 @@ QString withMarksComposed(const QString &text)
     return composed;
 }
 
-std::optional<qsizetype> utf8Length(const QString &text)
+std::optional<QByteArray> encodeUtf8(const QString &text)
 {
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(text);
-    return encoder.hasError() ? std::nullopt : std::optional(bytes.size());
+    return encoder.hasError() ? std::nullopt : std::optional(bytes);
+}
+
+QByteArray encodeUtf16(const QString &text)
+{
+    const QString marked = QChar(QChar::ByteOrderMark) + text;
+    return {reinterpret_cast<const char *>(marked.utf16()), 2 * marked.size()};
+}
+
+std::optional<QByteArray> encode(const QString &text, TextEncoding encoding)
+{
+    if (encoding == TextEncoding::Utf8) {
+        return encodeUtf8(text);
+    }
+    if (encoding == TextEncoding::Utf16) {
+        return encodeUtf16(text);
+    }
+    const Converter converter = strictConverter(encoding);
+    if (!converter) {
+        return std::nullopt;
+    }
+    QString composed = withMarksComposed(text);
+    if (encoding == TextEncoding::MacRoman) {
+        // Its omega may be spelled as the unit of resistance; the library knows the letter only.
+        composed.replace(QChar(0x2126), QChar(0x03A9));
+    }
+    QByteArray bytes(4 * composed.size() + 8, Qt::Uninitialized);
+    UErrorCode error = U_ZERO_ERROR;
+    const int32_t length = ucnv_fromUChars(converter.get(), bytes.data(), int32_t(bytes.size()),
+                                           reinterpret_cast<const UChar *>(composed.utf16()),
+                                           int32_t(composed.size()), &error);
+    bytes.truncate(length);
+    return U_FAILURE(error) ? std::nullopt : std::optional(bytes);
 }
 
 } // namespace
@@ -163,29 +195,15 @@ void setSystemEncoding(TextEncoding encoding)
     gSystemEncoding = encoding;
 }
 
+std::optional<QByteArray> encodeSystem(const QString &text)
+{
+    return encode(text, gSystemEncoding);
+}
+
 std::optional<qsizetype> encodedLength(const QString &text, TextEncoding encoding)
 {
-    if (encoding == TextEncoding::Utf8) {
-        return utf8Length(text);
-    }
-    if (encoding == TextEncoding::Utf16) {
-        return 2 + 2 * text.size();
-    }
-    const Converter converter = strictConverter(encoding);
-    if (!converter) {
-        return std::nullopt;
-    }
-    QString composed = withMarksComposed(text);
-    if (encoding == TextEncoding::MacRoman) {
-        // Its omega may be spelled as the unit of resistance; the library knows the letter only.
-        composed.replace(QChar(0x2126), QChar(0x03A9));
-    }
-    QByteArray room(4 * composed.size() + 8, Qt::Uninitialized);
-    UErrorCode error = U_ZERO_ERROR;
-    const int32_t length = ucnv_fromUChars(converter.get(), room.data(), int32_t(room.size()),
-                                           reinterpret_cast<const UChar *>(composed.utf16()),
-                                           int32_t(composed.size()), &error);
-    return U_FAILURE(error) ? std::nullopt : std::optional<qsizetype>(length);
+    const std::optional<QByteArray> bytes = encode(text, encoding);
+    return bytes ? std::optional(bytes->size()) : std::nullopt;
 }
 
 qsizetype lengthInFirstFittingEncoding(const QString &text)

@@ -3,6 +3,7 @@
 
 #include "platform/Export.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -31,6 +32,9 @@ enum class TextEncoding
 PLATFORM_EXPORT std::optional<QString> decodeAscii(const char *text);
 PLATFORM_EXPORT std::optional<QString> decodeUtf8(const char *text);
 PLATFORM_EXPORT std::optional<QString> decodeSystem(const char *text);
+
+/// The text's bytes in the system encoding, or nothing when a character of it has no place there.
+PLATFORM_EXPORT std::optional<QByteArray> encodeSystem(const QString &text);
 
 /// The encoding of texts that name none of their own; UTF-8 whatever the locale, until it is set.
 PLATFORM_EXPORT TextEncoding systemEncoding();

@@ -87,6 +87,16 @@ TEST_F(TextEncodings, SystemDecoderRefusesBytesThatHaveNoCharacter)
     EXPECT_EQ(decodeSystem("\xFF"), std::nullopt);
 }
 
+TEST_F(TextEncodings, SystemEncoderGivesBytesOrNothingAtAll)
+{
+    EXPECT_EQ(encodeSystem(QStringLiteral("caf\u00E9")), QByteArray("caf\xC3\xA9"));
+    EXPECT_EQ(encodeSystem(QStringLiteral("a") + kLoneHighSurrogate), std::nullopt);
+    EXPECT_EQ(encodeSystem(QString()), QByteArray());
+    setSystemEncoding(TextEncoding::MacRoman);
+    EXPECT_EQ(encodeSystem(QStringLiteral("caf\u00E9")), QByteArray("caf\x8E"));
+    EXPECT_EQ(encodeSystem(QStringLiteral("a\u3042")), std::nullopt);
+}
+
 TEST_F(TextEncodings, LengthsCountTheBytesOfTheEncoding)
 {
     EXPECT_EQ(encodedLength(QString(), TextEncoding::Utf8), 0);
