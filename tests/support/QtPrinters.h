@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <ostream>
+
+// Lets a failing expectation show Qt's texts as texts.
+QT_BEGIN_NAMESPACE
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const QStringList &texts, std::ostream *out)
+{
+    *out << '"' << texts.join(QStringLiteral("\", \"")).toStdString() << '"';
+}
+
+QT_END_NAMESPACE
