@@ -3,6 +3,7 @@
 
 #include "platform/Controls.h"
 
+#include <QFocusEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -12,7 +13,10 @@ namespace platform {
 
 RadioMatrix::RadioMatrix(QWidget *parent)
     : QWidget(parent)
-{ }
+{
+    // A label leads only to a control that takes focus; the rows are the tab stops.
+    setFocusPolicy(Qt::ClickFocus);
+}
 
 void RadioMatrix::setRows(const QStringList &titles)
 {
@@ -90,6 +94,13 @@ void RadioMatrix::deselectAllCells()
 void RadioMatrix::setTitle(int row, const QString &title)
 {
     setButtonTitle(buttonAt(row), title);
+}
+
+void RadioMatrix::focusInEvent(QFocusEvent *event)
+{
+    if (QRadioButton *button = buttonAt(std::max(selectedRow(), 0))) {
+        button->setFocus(event->reason());
+    }
 }
 
 void RadioMatrix::resizeEvent(QResizeEvent *event)

@@ -15,7 +15,8 @@ namespace platform {
 
 /// One column of radio buttons of which at most one is on; its height is shared evenly by the rows.
 ///
-/// Starts with row 0 on. An interface description names the class and lists the titles in `rows`.
+/// Starts with row 0 on. The focus that its label's mnemonic gives it goes to the row that is on.
+/// An interface description names the class and lists the titles in `rows`.
 class PLATFORM_EXPORT RadioMatrix : public QWidget
 {
     Q_OBJECT
@@ -46,6 +47,7 @@ Q_SIGNALS:
     void picked();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

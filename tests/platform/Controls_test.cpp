@@ -217,4 +217,24 @@ TEST_F(Radio, AnAssistiveToolPicksOnce)
     EXPECT_EQ(picked.count(), 1);
 }
 
+TEST(RadioFocus, TheMnemonicOfItsLabelLeadsToTheRowThatIsOn)
+{
+    QWidget window;
+    auto *matrix = new RadioMatrix(&window);
+    matrix->setRows({QStringLiteral("a"), QStringLiteral("b")});
+    auto *label = new QLabel(QStringLiteral("&Rows"), &window);
+    label->setBuddy(matrix);
+    const QSignalSpy picked(matrix, &RadioMatrix::picked);
+    const auto buttons = matrix->findChildren<QRadioButton *>();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    matrix->selectCellAtRow(1);
+    QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(window.focusWidget(), buttons.at(1));
+    matrix->deselectAllCells();
+    QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(window.focusWidget(), buttons.at(0));
+    EXPECT_EQ(picked.count(), 0);
+}
+
 } // namespace
