@@ -130,11 +130,11 @@ TEST_F(PanelLayout, TwinSlidersHaveOneShape)
 }
 
 /// Whether texts fit in a font as large as desktops commonly use, in the longest translation.
-class PanelFit : public testing::TestWithParam<QString>
+class PanelFit : public testing::TestWithParam<std::string>
 {
 protected:
     PanelFit()
-        : panel(GetParam())
+        : panel(QString::fromStdString(GetParam()))
     { }
 
     void SetUp() override

@@ -215,11 +215,11 @@ TEST_F(PanelDescription, MnemonicsReachTheControls)
                      "mRedLevelSlider"}));
 }
 
-class PanelNames : public testing::TestWithParam<QString>
+class PanelNames : public testing::TestWithParam<std::string>
 {
 protected:
     PanelNames()
-        : panel(GetParam())
+        : panel(QString::fromStdString(GetParam()))
     { }
     void SetUp() override { ASSERT_NE(panel.view(), nullptr); }
 

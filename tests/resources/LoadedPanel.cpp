@@ -88,17 +88,17 @@ QStringList fixedTexts()
     return texts;
 }
 
-QStringList translatedLanguages()
+std::vector<std::string> translatedLanguages()
 {
-    return {QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es"), QStringLiteral("ja")};
+    return {"de", "fr", "es", "ja"};
 }
 
-QStringList languages()
+std::vector<std::string> languages()
 {
-    return QStringList(QStringLiteral("en")) + translatedLanguages();
+    return {"en", "de", "fr", "es", "ja"};
 }
 
-std::string languageOf(const testing::TestParamInfo<QString> &test)
+std::string languageOf(const testing::TestParamInfo<std::string> &test)
 {
-    return test.param.toStdString();
+    return test.param;
 }

@@ -10,6 +10,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -59,9 +60,9 @@ QList<TextPlace> titlePlaces();
 QStringList fixedTexts();
 
 /// The languages beside English.
-QStringList translatedLanguages();
+std::vector<std::string> translatedLanguages();
 
-QStringList languages();
+std::vector<std::string> languages();
 
 /// Names the tests of a suite over languages.
-std::string languageOf(const testing::TestParamInfo<QString> &test);
+std::string languageOf(const testing::TestParamInfo<std::string> &test);

@@ -26,11 +26,11 @@ QStringList titlesOfSamplePrinter(const QString &pattern)
     return titles;
 }
 
-class Strings : public testing::TestWithParam<QString>
+class Strings : public testing::TestWithParam<std::string>
 {
 protected:
     Strings()
-        : bundle(QStringLiteral(BUNDLE_DIR), {GetParam()})
+        : bundle(QStringLiteral(BUNDLE_DIR), {language})
     { }
 
     QStringList missing(const QStringList &keys, const char *context = "Localizable") const
@@ -47,6 +47,7 @@ protected:
 
     QString text(const char *key) const { return bundle.localizedString(QLatin1String(key)); }
 
+    const QString language = QString::fromStdString(GetParam());
     Bundle bundle;
 };
 
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, Strings, testing::ValuesIn(languages()), lan
 TEST_P(Strings, AreInTheLanguageAskedFor)
 {
     ASSERT_NE(bundle.strings(), nullptr);
-    EXPECT_EQ(bundle.strings()->language(), GetParam());
+    EXPECT_EQ(bundle.strings()->language(), language);
 }
 
 TEST_P(Strings, HaveATextForEveryKeyOfThePanel)
@@ -111,7 +112,7 @@ TEST_P(Strings, TellTheHalftoneMethodsAndTheTwoAnswersApart)
 
 TEST_P(Strings, HaveNoUnfinishedTranslation)
 {
-    QFile file(QStringLiteral(SOURCE_DIR "/resources/strings/Localizable_%1.ts").arg(GetParam()));
+    QFile file(QStringLiteral(SOURCE_DIR "/resources/strings/Localizable_%1.ts").arg(language));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray table = file.readAll();
     EXPECT_FALSE(table.contains("type=\"unfinished\""));
@@ -134,7 +135,7 @@ TEST_P(TranslatedStrings, HaveEveryFixedTextOfTheInterfaceDescription)
 
 TEST_P(TranslatedStrings, HaveNoTextThatTheInterfaceDescriptionDropped)
 {
-    QFile file(QStringLiteral(SOURCE_DIR "/resources/strings/Localizable_%1.ts").arg(GetParam()));
+    QFile file(QStringLiteral(SOURCE_DIR "/resources/strings/Localizable_%1.ts").arg(language));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString context =
         QString::fromUtf8(file.readAll()).section(QLatin1String("</context>"), 0, 0);
@@ -146,15 +147,14 @@ TEST_P(TranslatedStrings, HaveNoTextThatTheInterfaceDescriptionDropped)
 class PrintersOwnLanguage : public Strings
 { };
 
-INSTANTIATE_TEST_SUITE_P(Languages, PrintersOwnLanguage,
-                         testing::Values(QStringLiteral("de"), QStringLiteral("ja")), languageOf);
+INSTANTIATE_TEST_SUITE_P(Languages, PrintersOwnLanguage, testing::Values("de", "ja"), languageOf);
 
 TEST_P(PrintersOwnLanguage, TitlesAreShownAsTheSameLabels)
 {
     const QString inEnglish = QStringLiteral(R"(^\*OpenUI \*Cv(?!BiDi)\w+/([^:]+):)");
     const QString inPrinters = QStringLiteral(R"(^\*%1\.Translation Cv(?!BiDi)\w+/([^:]+):)");
     const QStringList english = titlesOfSamplePrinter(inEnglish);
-    const QStringList printers = titlesOfSamplePrinter(inPrinters.arg(GetParam()));
+    const QStringList printers = titlesOfSamplePrinter(inPrinters.arg(language));
     ASSERT_EQ(printers.size(), english.size());
     for (int i = 0; i < printers.size(); ++i) {
         EXPECT_EQ(bundle.localizedString(printers.at(i) + QStringLiteral(" : ")),
