@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "preview/ColorControls.h"
 
+#include "preview/ColorControlsRows.h"
+
 #include <cmath>
 
 namespace preview {
@@ -22,10 +24,10 @@ std::uint8_t rounded(double tone)
     return tone > 0.0 ? std::uint8_t(std::floor(tone + 0.5)) : std::uint8_t(0);
 }
 
-void filterRow(const ColorControls::Table &table, const std::uint8_t *from, std::uint8_t *to,
-               std::size_t width)
+void filterWithTable(const ToneTable &table, const std::uint8_t *from, std::uint8_t *to,
+                     std::size_t pixels)
 {
-    for (std::size_t i = 0; i < width * 4; i += 4) {
+    for (std::size_t i = 0; i < pixels * 4; i += 4) {
         const bool visible = from[i + 3] != 0;
         to[i] = visible ? table[from[i]] : from[i];
         to[i + 1] = visible ? table[from[i + 1]] : from[i + 1];
@@ -34,7 +36,44 @@ void filterRow(const ColorControls::Table &table, const std::uint8_t *from, std:
     }
 }
 
+std::size_t filterNothing(const FixedPointMap &, const std::uint8_t *, std::uint8_t *, std::size_t)
+{
+    return 0;
+}
+
+RowFilter rowFilter(ColorPath path)
+{
+    switch (path) {
+#if defined(__x86_64__)
+    case ColorPath::Avx2:
+        return filterRowAvx2;
+    case ColorPath::Sse2:
+        return filterRowSse2;
+#endif
+    default:
+        return filterNothing;
+    }
+}
+
+ColorPath fastestPath()
+{
+    static const ColorPath fastest = colorPaths().back();
+    return fastest;
+}
+
 } // namespace
+
+std::vector<ColorPath> colorPaths()
+{
+    std::vector<ColorPath> paths{ColorPath::Plain};
+#if defined(__x86_64__)
+    paths.push_back(ColorPath::Sse2);
+    if (__builtin_cpu_supports("avx2")) {
+        paths.push_back(ColorPath::Avx2);
+    }
+#endif
+    return paths;
+}
 
 ColorControls::ColorControls(ColorPass first, ColorPass second)
     : mTable()
@@ -42,13 +81,24 @@ ColorControls::ColorControls(ColorPass first, ColorPass second)
     for (std::size_t value = 0; value < mTable.size(); ++value) {
         mTable[value] = rounded(filtered(filtered(double(value), first), second));
     }
+    mFixedPoint = fixedPointFor(mTable, double(first.contrast) * double(second.contrast));
 }
 
 void ColorControls::apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to) const
 {
+    apply(from, to, fastestPath());
+}
+
+void ColorControls::apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to,
+                          ColorPath path) const
+{
+    const RowFilter filterRow = mFixedPoint ? rowFilter(path) : filterNothing;
+    const FixedPointMap map = mFixedPoint.value_or(FixedPointMap());
     for (std::size_t y = 0; y < from.height; ++y) {
-        filterRow(mTable, from.bytes + y * from.bytesPerRow, to.bytes + y * to.bytesPerRow,
-                  from.width);
+        const std::uint8_t *source = from.bytes + y * from.bytesPerRow;
+        std::uint8_t *target = to.bytes + y * to.bytesPerRow;
+        const std::size_t done = filterRow(map, source, target, from.width);
+        filterWithTable(mTable, source + done * 4, target + done * 4, from.width - done);
     }
 }
 

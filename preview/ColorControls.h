@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <array>
+#include "preview/FixedPointMap.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace preview {
 
@@ -25,6 +28,17 @@ template <typename Byte> struct PixelRows
     std::size_t bytesPerRow = 0;
 };
 
+/// The ways to do the work; all give the same bytes.
+enum class ColorPath
+{
+    Plain,
+    Sse2,
+    Avx2
+};
+
+/// The ways that this processor can go, the fastest last. Plain is always there.
+std::vector<ColorPath> colorPaths();
+
 /// Two passes of the colour-controls filter over 8-bit pixels, done in one sweep.
 ///
 /// The second pass works on the unclamped result of the first; tones are clamped and rounded once,
@@ -32,18 +46,24 @@ template <typename Byte> struct PixelRows
 class ColorControls
 {
 public:
-    using Table = std::array<std::uint8_t, 256>;
-
     ColorControls(ColorPass first, ColorPass second);
 
     /// What becomes of each value of red, green and blue.
-    const Table &table() const { return mTable; }
+    const ToneTable &table() const { return mTable; }
+
+    /// The table as arithmetic for vector units; without it the table is looked up.
+    const std::optional<FixedPointMap> &fixedPoint() const { return mFixedPoint; }
 
     /// Filters `from` into `to`, which has the same size and is either the same memory or apart.
     void apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to) const;
 
+    /// The same, done in a way that is one of colorPaths().
+    void apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to,
+               ColorPath path) const;
+
 private:
-    Table mTable;
+    ToneTable mTable;
+    std::optional<FixedPointMap> mFixedPoint;
 };
 
 } // namespace preview
