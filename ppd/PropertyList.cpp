@@ -13,7 +13,7 @@ namespace {
 // list by recursion, so that some 100,000 arrays in each other overflow the stack; it moves the
 // rest of a text for each character reference in it, so that a megabyte of them takes seconds.
 // Only predefined entities are known to it, and no file is read for others.
-constexpr qsizetype kMaximumSize = 256 * 1024;
+constexpr qsizetype kMaximumSize = 262144;
 constexpr qsizetype kMaximumContainers = 4096;
 
 /// Every nested container has a start of its own, so that their number limits the depth as well,

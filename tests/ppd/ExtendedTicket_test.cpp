@@ -162,8 +162,9 @@ INSTANTIATE_TEST_SUITE_P(
                   bothKeys(QByteArray("<array>").repeated(100000) + kBlackRed
                            + QByteArray("</array>").repeated(100000))},
         BadTicket{"DeepNestingNeverClosed", QByteArray("<dict><key>A</key>").repeated(100000)},
-        BadTicket{"ManyMegabytes",
-                  ticketWith(stringEntry("A", QByteArray(8 << 20, 'x'))) + kBlackRed},
+        BadTicket{
+            "ManyMegabytes",
+            bothKeys(kBlackRed + "<key>A</key><data>" + QByteArray(8 << 20, 'A') + "</data>")},
         BadTicket{"MegabytesOfReferences",
                   bothKeys("<string>MultiColorBlackRed" + QByteArray("&amp;").repeated(400000)
                            + "</string>")},

@@ -155,6 +155,15 @@ TEST_F(PDEUtilsMethod, FindsTheFirstChoiceWithTheKeyword)
     EXPECT_EQ(Utils::findChoiceForString(QStringLiteral("-1"), choices.get()), (*choices)[22]);
 }
 
+TEST_F(PDEUtilsMethod, ChoicesAreFoundByKeywordAndNotByTitle)
+{
+    const TestPpd ppd = TestPpd::fromFile(QStringLiteral("duplicate-choices.ppd"));
+    const auto choices = Utils::arrayFromPPDOption(ppd.option("CvBrightness"));
+    ASSERT_EQ((*choices)[0]->userTitle(), QStringLiteral("+20"));
+    EXPECT_EQ(Utils::findChoiceForString(QStringLiteral("20"), choices.get()), (*choices)[0]);
+    EXPECT_EQ(Utils::findChoiceForString(QStringLiteral("+20"), choices.get()), nullptr);
+}
+
 TEST_F(PDEUtilsMethod, UnknownKeywordFindsNoChoice)
 {
     const TestPpd ppd = TestPpd::fromFile(QStringLiteral("six-options.ppd"));
