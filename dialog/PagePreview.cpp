@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "dialog/PagePreview.h"
+
+#include "dialog/PageCanvas.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace dialog {
+
+PagePreview::PagePreview(QWidget *parent)
+    : QWidget(parent)
+    , mCanvas(new PageCanvas(this))
+    , mPrevious(new QToolButton(this))
+    , mNumber(new QLabel(this))
+    , mNext(new QToolButton(this))
+{
+    setFocusProxy(mCanvas);
+    connect(mCanvas, &PageCanvas::shown, this, [this] {
+        setTexts();
+        Q_EMIT pageShown();
+    });
+    connect(mPrevious, &QToolButton::clicked, this, [this] { setCurrentPage(mPage - 1); });
+    connect(mNext, &QToolButton::clicked, this, [this] { setCurrentPage(mPage + 1); });
+    buildRow();
+    refresh();
+}
+
+void PagePreview::buildRow()
+{
+    mPrevious->setObjectName(QStringLiteral("previousPage"));
+    mNext->setObjectName(QStringLiteral("nextPage"));
+    mNumber->setObjectName(QStringLiteral("pageNumber"));
+    const bool fromRight = isRightToLeft();
+    mPrevious->setArrowType(fromRight ? Qt::RightArrow : Qt::LeftArrow);
+    mNext->setArrowType(fromRight ? Qt::LeftArrow : Qt::RightArrow);
+    for (QToolButton *button : {mPrevious, mNext}) {
+        button->setAutoRaise(true);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+    mNumber->setAlignment(Qt::AlignCenter);
+    mNumber->setTextFormat(Qt::PlainText);
+
+    auto *row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(mPrevious);
+    row->addWidget(mNumber);
+    row->addWidget(mNext);
+    row->addStretch(1);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(mCanvas, 1);
+    column->addLayout(row);
+}
+
+void PagePreview::setDocument(std::shared_ptr<const DocumentPages> document)
+{
+    mDocument = std::move(document);
+    const int before = std::exchange(mPage, 0);
+    refresh();
+    if (before != 0) {
+        Q_EMIT currentPageChanged(mPage);
+    }
+}
+
+void PagePreview::setSheet(const Sheet &sheet)
+{
+    mSheet = sheet;
+    refresh();
+}
+
+void PagePreview::setScaling(Scaling scaling)
+{
+    mScaling = scaling;
+    refresh();
+}
+
+int PagePreview::pageCount() const
+{
+    return mDocument ? mDocument->pageCount() : 0;
+}
+
+void PagePreview::setCurrentPage(int page)
+{
+    const int nearest = std::max(0, std::min(page, pageCount() - 1));
+    if (nearest == mPage) {
+        return;
+    }
+    mPage = nearest;
+    refresh();
+    Q_EMIT currentPageChanged(mPage);
+}
+
+bool PagePreview::isUpToDate() const
+{
+    return mCanvas->isUpToDate();
+}
+
+void PagePreview::refresh()
+{
+    mCanvas->setRequest({mDocument, mPage, mSheet, mScaling, {}});
+    mPrevious->setEnabled(mPage > 0);
+    mNext->setEnabled(mPage + 1 < pageCount());
+    setTexts();
+}
+
+void PagePreview::setTexts()
+{
+    const QString number =
+        mDocument ? tr("Page %L1 of %L2").arg(mPage + 1).arg(pageCount()) : QString();
+    mNumber->setText(number);
+    for (const auto &[button, text] :
+         {std::pair(mPrevious, tr("Previous page")), std::pair(mNext, tr("Next page"))}) {
+        button->setAccessibleName(text);
+        button->setToolTip(text);
+    }
+    mCanvas->setAccessibleName(tr("Preview of the document"));
+    const QString message = mCanvas->message();
+    const QString description = message.isEmpty() || number.isEmpty()
+        ? number + message
+        : tr("%1: %2", "page number, what is wrong with it").arg(number, message);
+    if (description != mCanvas->accessibleDescription()) {
+        mCanvas->setAccessibleDescription(description);
+        QAccessibleEvent changed(mCanvas, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+bool PagePreview::turnByKey(int key)
+{
+    const bool fromRight = isRightToLeft();
+    switch (key) {
+    case Qt::Key_PageUp:
+    case Qt::Key_Up:
+        setCurrentPage(mPage - 1);
+        return true;
+    case Qt::Key_PageDown:
+    case Qt::Key_Down:
+        setCurrentPage(mPage + 1);
+        return true;
+    case Qt::Key_Left:
+        setCurrentPage(mPage + (fromRight ? 1 : -1));
+        return true;
+    case Qt::Key_Right:
+        setCurrentPage(mPage + (fromRight ? -1 : 1));
+        return true;
+    case Qt::Key_Home:
+        setCurrentPage(0);
+        return true;
+    case Qt::Key_End:
+        setCurrentPage(pageCount() - 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PagePreview::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!plain || !turnByKey(event->key())) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+// One page for each notch; fine wheels and touch pads send parts of one.
+void PagePreview::wheelEvent(QWheelEvent *event)
+{
+    constexpr int kNotch = 120;
+    mWheelSteps += event->angleDelta().y();
+    const int pages = mWheelSteps / kNotch;
+    mWheelSteps -= pages * kNotch;
+    setCurrentPage(mPage - pages);
+    event->accept();
+}
+
+void PagePreview::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTexts();
+        mCanvas->update();
+    }
+    QWidget::changeEvent(event);
+}
+
+} // namespace dialog
