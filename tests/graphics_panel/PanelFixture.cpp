@@ -80,6 +80,14 @@ void RecordingPanel::updateUIItem(qint32 itemType)
     GraphicsPDE13_v300_::updateUIItem(itemType);
 }
 
+void RecordingPanel::PPDOptionKeyValueDidChange(const std::optional<QString> &option,
+                                                const std::optional<QString> &ppdChoice)
+{
+    write("didChange " + option.value_or(QString()).toStdString() + "="
+          + ppdChoice.value_or(QString()).toStdString());
+    GraphicsPDE13_v300_::PPDOptionKeyValueDidChange(option, ppdChoice);
+}
+
 PanelTest::PanelTest()
 {
     usePpd(sixOptions());
@@ -118,7 +126,7 @@ void PanelTest::makePanel()
     if (!host) {
         host = std::make_shared<RecordingHost>(ppd ? &*ppd : nullptr);
     }
-    bundle = std::make_unique<platform::Bundle>(mFolder.path());
+    bundle = std::make_unique<platform::Bundle>(bundleFolder);
     panel = std::make_shared<RecordingPanel>();
     ASSERT_EQ(panel->initWithCallback(host, bundle.get()), panel.get());
 }

@@ -33,6 +33,8 @@ public:
     void setPDEItems2() override;
     void updateMarkedSelections(qint32 itemType) override;
     void updateUIItem(qint32 itemType) override;
+    void PPDOptionKeyValueDidChange(const std::optional<QString> &option,
+                                    const std::optional<QString> &ppdChoice) override;
 
 protected:
     bool init() override { return !baseDeclines; }
@@ -128,4 +130,7 @@ protected:
 
 private:
     QTemporaryDir mFolder;
+
+protected:
+    QString bundleFolder = mFolder.path();
 };

@@ -18,15 +18,12 @@ struct PpdOption
 };
 
 /// The places of the options in sixOptions().
-enum PpdPlace
-{
-    Halftone,
-    Brightness,
-    Contrast,
-    BiDiPrint,
-    Color,
-    RedLevel
-};
+inline constexpr size_t kHalftone = 0;
+inline constexpr size_t kBrightness = 1;
+inline constexpr size_t kContrast = 2;
+inline constexpr size_t kBiDiPrint = 3;
+inline constexpr size_t kColor = 4;
+inline constexpr size_t kRedLevel = 5;
 
 /// The six options that the panel binds: halftone default ErrorDiffusion, levels from 20 down to
 /// -20 with default 0, bi-directional printing default ON, colour default monochrome.
