@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 
 #include <limits>
+#include <ostream>
 
 using testing::ElementsAre;
 
@@ -301,6 +302,11 @@ struct TextCase
     const char *typed;
     const char *shown;
 };
+
+void PrintTo(const TextCase &text, std::ostream *out)
+{
+    *out << text.typed << " at " << text.slider;
+}
 
 class BriConViewText : public BriConView, public testing::WithParamInterface<TextCase>
 { };

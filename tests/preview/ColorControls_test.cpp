@@ -5,10 +5,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ostream>
 #include <random>
 #include <string>
 
 using namespace preview;
+
+namespace preview {
+
+void PrintTo(ColorPath path, std::ostream *out)
+{
+    constexpr const char *kNames[] = {"Plain", "Sse2", "Avx2"};
+    *out << kNames[int(path)];
+}
+
+} // namespace preview
 
 namespace {
 
@@ -199,8 +210,7 @@ TEST_P(ColorControlsPath, TakesAPictureWithoutRows)
 
 std::string nameOf(const testing::TestParamInfo<ColorPath> &path)
 {
-    constexpr const char *kNames[] = {"Plain", "Sse2", "Avx2"};
-    return kNames[int(path.param)];
+    return testing::PrintToString(path.param);
 }
 
 // A way that the processor lacks has no test of its own, rather than one that passes untried.

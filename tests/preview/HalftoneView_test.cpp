@@ -164,15 +164,41 @@ TEST_F(HalftoneView, PicturesStayWhenTheFilesAreGone)
     EXPECT_EQ(drawnForRow(0).pixel(1, 78), QColor(Qt::red).rgb());
 }
 
-TEST_F(HalftoneView, OnlyTheSelectionOfTheMomentIsDrawnAtARequest)
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int paints = 0;
+};
+
+TEST_F(HalftoneView, ARequestRedrawsAShownViewAndRequestsAreDrawnTogether)
 {
     makeView();
     view->show();
     QCoreApplication::processEvents();
-    matrix.selectCellAtRow(2);
-    view->setNeedsDisplay(true);
+    PaintCounter counter;
+    view->installEventFilter(&counter);
+    view->setNeedsDisplay(false);
     QCoreApplication::processEvents();
-    EXPECT_EQ(view->grab().toImage().pixel(1, 78), QColor(Qt::blue).rgb());
+    EXPECT_EQ(counter.paints, 0);
+    view->setNeedsDisplay(true);
+    view->setNeedsDisplay(true);
+    EXPECT_EQ(counter.paints, 0) << "it only schedules the drawing";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(counter.paints, 1);
+}
+
+TEST_F(HalftoneView, TheSelectionOfTheMomentOfDrawingIsShown)
+{
+    makeView();
+    matrix.selectCellAtRow(1);
+    view->setNeedsDisplay(true);
+    EXPECT_EQ(drawnForRow(2).pixel(1, 78), QColor(Qt::blue).rgb());
 }
 
 TEST_F(HalftoneView, APaintOfAPartDrawsTheWholePictureThere)
