@@ -11,7 +11,7 @@ public:
     void PPDOptionKeyValueDidChange(const std::optional<QString> &,
                                     const std::optional<QString> &) override
     {
-        host().willChangePPDOptionKeyValue(QStringLiteral("PageSize"), QStringLiteral("DC17x54"));
+        host().willChangePPDOptionKeyValue(QStringLiteral("CvBrightness"), QStringLiteral("5"));
     }
 };
 
