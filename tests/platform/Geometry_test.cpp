@@ -109,6 +109,15 @@ TEST_F(Geometry, ViewWithAFrameFollowsASuperviewResizedWhileHidden)
     EXPECT_EQ(preview->pos(), QPoint(20, 70));
 }
 
+TEST_F(Geometry, SubviewOfAHiddenViewWithAFrameFollowsItAtOnce)
+{
+    putPreviewIn();
+    auto *mark = new QWidget(preview);
+    setFrame(mark, QRectF(1, 2, 10, 10));
+    setFrameSize(preview, QSizeF(60, 30));
+    EXPECT_EQ(mark->geometry(), QRect(1, 18, 10, 10));
+}
+
 TEST_F(Geometry, ViewWithoutAFrameStaysPinnedToTheTop)
 {
     view.show();

@@ -249,10 +249,11 @@ TEST_F(OutletsTest, DroppedNameIsNullAndDumbAlsoWhenConnectedAgain)
     outlets.drop(QStringLiteral("slider"));
     EXPECT_FALSE(slider);
     EXPECT_TRUE(box);
+    QTest::keyClick(control, Qt::Key_Right);
     outlets.connectTo(view.get());
     EXPECT_FALSE(slider);
     QTest::keyClick(control, Qt::Key_Right);
-    EXPECT_EQ(control->value(), 1);
+    EXPECT_EQ(control->value(), 2);
     EXPECT_EQ(sent, 0);
 }
 

@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
+
 using platform::SystemVersionPart;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -68,6 +70,11 @@ struct VersionRow
     Number major, minor, bugFix;
     bool starts;
 };
+
+void PrintTo(const VersionRow &row, std::ostream *out)
+{
+    *out << row.name;
+}
 
 class SystemVersionRow : public SystemVersionCase, public testing::WithParamInterface<VersionRow>
 { };
