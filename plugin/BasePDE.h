@@ -27,10 +27,6 @@ struct Notification;
 inline constexpr QLatin1String
     GraphicsPanelKind("org.labelprint.printer.cups.pde.CVKTVLGraphicsPDEKind");
 
-/// Posted from the panel's view (its address as QWidget) by the dialog when it has grown.
-inline constexpr QLatin1String
-    NSViewDidUpdateTrackingAreasNotification("NSViewDidUpdateTrackingAreasNotification");
-
 /// A panel of the print dialog, without its settings.
 ///
 /// Answers the dialog through hooks that a concrete panel overrides; a hook does nothing here. Made

@@ -51,6 +51,12 @@ inline constexpr QLatin1String kPrintDialogPanelType("BDB091F4-E57F-11D3-B5CC-00
 /// The key of the summary dictionary that holds the titles in the order in which they are shown.
 inline constexpr QLatin1String kSummaryDisplayOrder("Summary Display Order");
 
+/// The dialog posts this on the default notification centre, with the address of the panel's view
+/// (as QWidget) as object, when it has grown and laid the view out anew. A panel that found the
+/// dialog too low for its new size waits for it before it calls panelViewDidResize.
+inline constexpr QLatin1String
+    NSViewDidUpdateTrackingAreasNotification("NSViewDidUpdateTrackingAreasNotification");
+
 /// What a print dialog offers to a panel.
 ///
 /// The dialog keeps the host alive at least as long as the panel. A panel asks for session,
