@@ -16,45 +16,40 @@ constexpr QLatin1String kPageSize("PageSize");
 constexpr QLatin1String kCustom("Custom");
 constexpr QLatin1String kCustomPrefix("Custom.");
 
-Failure ppdFailure(const QString &path, const QString &why)
-{
-    return {FailureKind::Ppd, path, why};
-}
-
 /// Why the file can be no PPD, as far as that shows before it is read.
-std::optional<Failure> checkFile(const QString &path)
+std::optional<QString> checkFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return ppdFailure(path, PpdFile::tr("there is no such file"));
+        return PpdFile::tr("there is no such file");
     }
     if (info.isDir()) {
-        return ppdFailure(path, PpdFile::tr("is a folder; choose the PPD file in it"));
+        return PpdFile::tr("is a folder; choose the PPD file in it");
     }
     // A pipe or a device could keep the dialog waiting for ever.
     if (!info.isFile()) {
-        return ppdFailure(path, PpdFile::tr("is not an ordinary file; choose a PPD file"));
+        return PpdFile::tr("is not an ordinary file; choose a PPD file");
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return ppdFailure(path, PpdFile::tr("cannot be read (%1)").arg(file.errorString()));
+        return PpdFile::tr("cannot be read (%1)").arg(file.errorString());
     }
     if (file.size() == 0) {
-        return ppdFailure(path, PpdFile::tr("is empty; choose the printer's PPD file"));
+        return PpdFile::tr("is empty; choose the printer's PPD file");
     }
     return {};
 }
 
-Failure notAPpd(const QString &path)
+QString notAPpd()
 {
     int line = 0;
     const QString reason = QString::fromUtf8(ppdErrorString(ppdLastError(&line)));
-    return ppdFailure(
-        path,
-        line > 0 ? PpdFile::tr("is not a usable PPD (line %1: %2); choose another one")
-                       .arg(line)
-                       .arg(reason)
-                 : PpdFile::tr("is not a usable PPD (%1); choose another one").arg(reason));
+    if (line <= 0) {
+        return PpdFile::tr("is not a usable PPD (%1); choose another one").arg(reason);
+    }
+    return PpdFile::tr("is not a usable PPD (line %1: %2); choose another one")
+        .arg(line)
+        .arg(reason);
 }
 
 /// A text of the PPD for people, or `keyword` when there is none that can be read.
@@ -123,9 +118,9 @@ Result<LabelSize> ownSize(const QString &choice)
 
 } // namespace
 
-PpdFile::PpdFile(ppd_file_t *ppd, const QString &path)
+PpdFile::PpdFile(ppd_file_t *ppd, const QString &name)
     : mPpd(ppd)
-    , mPath(path)
+    , mName(name)
 { }
 
 PpdFile::~PpdFile()
@@ -133,17 +128,18 @@ PpdFile::~PpdFile()
     ppdClose(mPpd);
 }
 
-Result<std::unique_ptr<PpdFile>> PpdFile::open(const QString &path)
+Result<std::unique_ptr<PpdFile>> PpdFile::open(const QString &path, const QString &name)
 {
-    if (const auto failure = checkFile(path)) {
-        return *failure;
+    const QString forPeople = name.isEmpty() ? path : name;
+    if (const auto why = checkFile(path)) {
+        return Failure{FailureKind::Ppd, forPeople, *why};
     }
-    const QByteArray name = QFile::encodeName(path);
-    ppd_file_t *ppd = ppdOpenFile(name.constData());
+    const QByteArray encoded = QFile::encodeName(path);
+    ppd_file_t *ppd = ppdOpenFile(encoded.constData());
     if (ppd == nullptr) {
-        return notAPpd(path);
+        return Failure{FailureKind::Ppd, forPeople, notAPpd()};
     }
-    std::unique_ptr<PpdFile> file(new PpdFile(ppd, path));
+    std::unique_ptr<PpdFile> file(new PpdFile(ppd, forPeople));
     ppdLocalize(ppd);
     file->markDefaults();
     return file;
@@ -156,7 +152,7 @@ QString PpdFile::nickName() const
 
 QString PpdFile::modelName() const
 {
-    return titleOr(mPpd->modelname, QFileInfo(mPath).completeBaseName());
+    return titleOr(mPpd->modelname, QFileInfo(mName).completeBaseName());
 }
 
 QStringList PpdFile::options() const

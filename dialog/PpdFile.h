@@ -44,8 +44,9 @@ class PpdFile
 
 public:
     /// Opens the PPD (plain or gzip), puts its texts into the user's language and marks its
-    /// defaults.
-    static Result<std::unique_ptr<PpdFile>> open(const QString &path);
+    /// defaults. `name` stands for the file in texts for people, where its path says nothing to
+    /// them.
+    static Result<std::unique_ptr<PpdFile>> open(const QString &path, const QString &name = {});
 
     ~PpdFile();
     PpdFile(const PpdFile &) = delete;
@@ -111,13 +112,13 @@ public:
     std::optional<OptionChoices> resolution(const QString &option, const QString &choice) const;
 
 private:
-    PpdFile(ppd_file_t *ppd, const QString &path);
+    PpdFile(ppd_file_t *ppd, const QString &name);
     std::vector<PpdConflict> described(const OptionChoices &pairs) const;
     std::optional<Failure> checkCustomSize(const LabelSize &size) const;
     LabelSize sizeOf(const ppd_size_t &size) const;
 
     ppd_file_t *mPpd;
-    QString mPath;
+    QString mName;
 };
 
 } // namespace dialog

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "dialog/JobSender.h"
+
+#include "dialog/NetworkThreads.h"
+
+#include <QByteArray>
+#include <QThreadPool>
+
+namespace dialog {
+
+namespace {
+
+using Progress = std::function<void(qint64, qint64)>;
+
+Failure cancelledFailure(const PrintJob &job)
+{
+    return {FailureKind::Cancelled, job.title(), JobSender::tr("stopped at your request")};
+}
+
+std::optional<Failure> writeAll(JobChannel &channel, QIODevice &device, const PrintJob &job,
+                                const CancelFlag &cancel, const Progress &progress)
+{
+    constexpr qint64 kBlock = 65536;
+    const qint64 total = device.size();
+    QByteArray block(kBlock, Qt::Uninitialized);
+    qint64 sent = 0;
+    for (;;) {
+        if (cancel.isSet()) {
+            return cancelledFailure(job);
+        }
+        const qint64 count = device.read(block.data(), kBlock);
+        if (count < 0) {
+            return Failure{FailureKind::Document, job.document.name,
+                           JobSender::tr("cannot be read (%1)").arg(device.errorString())};
+        }
+        if (count == 0) {
+            return {};
+        }
+        if (auto failure = channel.write(block.constData(), count)) {
+            return failure;
+        }
+        sent += count;
+        progress(sent, total);
+    }
+}
+
+std::optional<Failure> sendDocument(JobChannel &channel, QIODevice &device, const PrintJob &job,
+                                    const CancelFlag &cancel, const Progress &progress)
+{
+    if (auto failure = channel.startDocument(job.document.name, job.document.mimeType)) {
+        return failure;
+    }
+    if (auto failure = writeAll(channel, device, job, cancel, progress)) {
+        return failure;
+    }
+    return channel.finishDocument();
+}
+
+} // namespace
+
+Result<int> sendJob(CupsServer &server, PrintJob job, CancelFlag &cancel, const Progress &progress)
+{
+    const auto device = job.document.open();
+    if (!device) {
+        return device.failure();
+    }
+    const auto channel = server.openJob(job.printer, cancel);
+    if (!channel) {
+        return channel.failure();
+    }
+    const auto number = channel.value()->createJob(job.title(), job.settings.jobOptions());
+    if (!number) {
+        return number.failure();
+    }
+    auto failure = sendDocument(*channel.value(), *device.value(), job, cancel, progress);
+    if (!failure) {
+        return number.value();
+    }
+    if (channel.value()->cancelJob()) {
+        failure->why +=
+            JobSender::tr("; job %1 may still be on the print server").arg(number.value());
+    }
+    return *failure;
+}
+
+JobSending::JobSending(std::shared_ptr<CupsServer> server, PrintJob job)
+    : mServer(std::move(server))
+    , mJob(std::move(job))
+{ }
+
+void JobSending::run()
+{
+    const auto number = sendJob(*mServer, mJob, mCancel, [this](qint64 bytes, qint64 total) {
+        Q_EMIT progressed(bytes, total);
+    });
+    if (number) {
+        Q_EMIT sent(number.value());
+    } else {
+        Q_EMIT failed(number.failure());
+    }
+}
+
+JobSender::JobSender(std::shared_ptr<CupsServer> server, QObject *parent)
+    : QObject(parent)
+    , mServer(std::move(server))
+{ }
+
+JobSender::~JobSender()
+{
+    cancel();
+}
+
+bool JobSender::send(const PrintJob &job)
+{
+    if (isBusy()) {
+        return false;
+    }
+    mSending = std::make_shared<JobSending>(mServer, job);
+    connect(mSending.get(), &JobSending::progressed, this, &JobSender::progressed,
+            Qt::QueuedConnection);
+    connect(
+        mSending.get(), &JobSending::sent, this,
+        [this](int number) {
+            mSending.reset();
+            Q_EMIT sent(number);
+        },
+        Qt::QueuedConnection);
+    connect(
+        mSending.get(), &JobSending::failed, this,
+        [this](const Failure &failure) {
+            mSending.reset();
+            Q_EMIT failed(failure);
+        },
+        Qt::QueuedConnection);
+    networkThreads()->start([sending = mSending] { sending->run(); });
+    return true;
+}
+
+void JobSender::cancel()
+{
+    if (mSending) {
+        mSending->cancel();
+    }
+}
+
+} // namespace dialog

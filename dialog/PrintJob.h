@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "dialog/JobSettings.h"
+#include "dialog/PrintDocument.h"
+
+#include <QString>
+
+namespace dialog {
+
+/// Everything that is needed to print once. A value, so that a worker can have its own.
+struct PrintJob
+{
+    /// The printer's name in the list.
+    QString printer;
+    PrintDocument document;
+    JobSettings settings;
+
+    /// The settings' title, or else the document's name.
+    QString title() const
+    {
+        return settings.title().trimmed().isEmpty() ? document.name : settings.title();
+    }
+};
+
+} // namespace dialog
