@@ -208,6 +208,8 @@ void PageCanvas::paintMessage(QPainter &painter) const
         return;
     }
     const QRect room = rect().adjusted(24, 24, -24, -24);
+    // Text is not measured while there is no pen.
+    painter.setPen(palette().color(QPalette::Text));
     constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
     const QRectF place = painter.boundingRect(QRectF(room), kFlags, text).adjusted(-12, -8, 12, 8);
     painter.setPen(palette().color(QPalette::Mid));

@@ -50,7 +50,7 @@ PagePicture PageRenderer::pictureOf(const PageRequest &request)
     if (image) {
         picture.image = image.value();
     } else {
-        picture.why = image.failure().why;
+        picture.why = request.document->title() + QStringLiteral(": ") + image.failure().why;
     }
     return picture;
 }

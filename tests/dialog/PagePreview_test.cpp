@@ -242,12 +242,27 @@ TEST_F(PagePreviewTest, DamagedPageGivesItsSentenceInPlaceOfThePicture)
     preview.setDocument(document.value());
     preview.setCurrentPage(1);
     waitForPage();
-    EXPECT_EQ(canvas().message(), QStringLiteral("page 2 is damaged and cannot be shown"));
-    EXPECT_EQ(description(), QStringLiteral("Page 2 of 3: page 2 is damaged and cannot be shown"));
+    EXPECT_EQ(canvas().message(),
+              QStringLiteral("damaged-page.pdf: page 2 is damaged and cannot be shown"));
+    EXPECT_EQ(
+        description(),
+        QStringLiteral("Page 2 of 3: damaged-page.pdf: page 2 is damaged and cannot be shown"));
     preview.setCurrentPage(2);
     waitForPage();
     EXPECT_EQ(canvas().message(), QString());
     EXPECT_FALSE(canvas().pageRectangle().isEmpty());
+}
+
+TEST_F(PagePreviewTest, SentenceStandsOnAGroundOfItsOwn)
+{
+    const QColor ground(1, 2, 3);
+    QPalette colours = preview.palette();
+    colours.setColor(QPalette::Base, ground);
+    preview.setPalette(colours);
+    const QImage screen = canvas().grab().toImage();
+    const int row = screen.height() / 2 - QFontMetrics(canvas().font()).height() / 2 - 4;
+    EXPECT_EQ(screen.pixelColor(screen.width() / 2, row), ground);
+    EXPECT_NE(screen.pixelColor(2, row), ground);
 }
 
 TEST_F(PagePreviewTest, PagesTurnedFasterThanTheyAreRenderedEndAtTheLastOne)

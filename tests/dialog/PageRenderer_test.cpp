@@ -116,7 +116,8 @@ TEST_F(PageRendererTest, DamagedPageIsReportedWithItsSentence)
     document = damaged.value();
     const PagePicture picture = PageRenderer::pictureOf(request(1));
     EXPECT_TRUE(picture.image.isNull());
-    EXPECT_EQ(picture.why, QStringLiteral("page 2 is damaged and cannot be shown"));
+    EXPECT_EQ(picture.why,
+              QStringLiteral("damaged-page.pdf: page 2 is damaged and cannot be shown"));
 }
 
 } // namespace
