@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/ImagePages.h"
 
-#include "dialog/ImageResolution.h"
+#include "dialog/ImageHeader.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -42,6 +42,11 @@ bool isTransposed(QImageIOHandler::Transformations turn)
 
 } // namespace
 
+QString ImagePages::damaged()
+{
+    return tr("is a damaged picture; save or export it once more");
+}
+
 ImagePages::ImagePages(DocumentKind kind, const QByteArray &content)
     : mKind(kind)
     , mContent(content)
@@ -63,7 +68,8 @@ ImagePages::open(DocumentKind kind, const QByteArray &content, const QString &na
                           "the package qt6-image-formats-plugins")};
     }
     const std::shared_ptr<const ImagePages> pages(new ImagePages(kind, content));
-    const QString why = pages->decoded(0).why;
+    const QString why =
+        kind == DocumentKind::Tiff && isTiffCutShort(content) ? damaged() : pages->decoded(0).why;
     if (!why.isEmpty()) {
         return Failure{FailureKind::Document, name, why};
     }
@@ -80,7 +86,7 @@ ImagePages::Decoded ImagePages::decode(int page) const
     Decoded picture;
     picture.page = page;
     if (page > 0 && !reader.jumpToImage(page)) {
-        picture.why = tr("is a damaged picture; save or export it once more");
+        picture.why = damaged();
         return picture;
     }
     const QSize size = reader.size();
@@ -94,7 +100,7 @@ ImagePages::Decoded ImagePages::decode(int page) const
     picture.transposed = isTransposed(reader.transformation());
     if (!reader.read(&picture.image) || picture.image.isNull()) {
         picture.image = {};
-        picture.why = tr("is a damaged picture; save or export it once more");
+        picture.why = damaged();
     }
     return picture;
 }

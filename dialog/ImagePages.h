@@ -54,6 +54,7 @@ private:
     };
 
     ImagePages(DocumentKind kind, const QByteArray &content);
+    static QString damaged();
     Decoded decode(int page) const;
     Decoded decoded(int page) const;
     QSizeF resolution(const Decoded &picture) const;

@@ -220,6 +220,12 @@ TEST_F(DocumentPagesTest, EmptyFileIsNoDocument)
     EXPECT_EQ(why(write(QStringLiteral("empty.pdf"), {})), "is empty; choose another document");
 }
 
+TEST_F(DocumentPagesTest, TiffFileWhosePagesAreMissingIsNotPrintedWithoutThem)
+{
+    EXPECT_EQ(why(write(QStringLiteral("scan.tiff"), tiffOfTwoPages().chopped(40))),
+              "is a damaged picture; save or export it once more");
+}
+
 TEST_F(DocumentPagesTest, OtherKindsAreRefused)
 {
     EXPECT_EQ(why(write(QStringLiteral("letter.pdf"), "Dear customer,")),

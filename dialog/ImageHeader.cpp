@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/ImageResolution.h"
+#include "dialog/ImageHeader.h"
 
 #include <QtEndian>
 
@@ -107,15 +107,32 @@ std::optional<QSizeF> resolutionOfDirectory(const Bytes &bytes, qsizetype at)
     return unit == kUnitIsInch ? stated(across, down) : std::nullopt;
 }
 
+Bytes tiffBytes(QByteArrayView content)
+{
+    return {content, content.startsWith("II") ? ByteOrder::Little : ByteOrder::Big};
+}
+
+// The place of the next picture's list is written behind the list at `directory`.
+qsizetype placeOfNext(const Bytes &bytes, qsizetype directory)
+{
+    return directory + 2 + 12 * qsizetype(bytes.word(directory));
+}
+
+// The large form of TIFF has another number here, and longer places.
+bool isClassicTiff(const Bytes &bytes)
+{
+    return bytes.word(2) == 42;
+}
+
 std::optional<QSizeF> resolutionOfTiff(QByteArrayView content, int page)
 {
-    const Bytes bytes(content, content.startsWith("II") ? ByteOrder::Little : ByteOrder::Big);
-    if (bytes.word(2) != 42) {
+    const Bytes bytes = tiffBytes(content);
+    if (!isClassicTiff(bytes)) {
         return {};
     }
     qsizetype directory = bytes.number(4);
     for (int skipped = 0; skipped < page && directory > 0; ++skipped) {
-        directory = bytes.number(directory + 2 + 12 * bytes.word(directory));
+        directory = bytes.number(placeOfNext(bytes, directory));
     }
     return directory > 0 ? resolutionOfDirectory(bytes, directory) : std::nullopt;
 }
@@ -167,6 +184,22 @@ std::optional<QSizeF> imageResolutionOf(DocumentKind kind, const QByteArray &con
         break;
     }
     return {};
+}
+
+bool isTiffCutShort(const QByteArray &content)
+{
+    // Pictures that lead back to an earlier one never end.
+    constexpr int kMostPictures = 65'536;
+    const Bytes bytes = tiffBytes(content);
+    qsizetype directory = isClassicTiff(bytes) ? bytes.number(4) : 0;
+    for (int picture = 0; picture < kMostPictures && directory > 0; ++picture) {
+        const qsizetype next = placeOfNext(bytes, directory);
+        if (directory + 2 > bytes.size() || next + 4 > bytes.size()) {
+            return true;
+        }
+        directory = bytes.number(next);
+    }
+    return false;
 }
 
 } // namespace dialog

@@ -16,4 +16,7 @@ namespace dialog {
 /// Read from the file because a decoded picture without one has the screen's.
 std::optional<QSizeF> imageResolutionOf(DocumentKind kind, const QByteArray &content, int page = 0);
 
+/// Whether a TIFF file says that it has more pictures than there are: its end is missing.
+bool isTiffCutShort(const QByteArray &content);
+
 } // namespace dialog

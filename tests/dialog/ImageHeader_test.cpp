@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/ImageResolution.h"
+#include "dialog/ImageHeader.h"
 #include "tests/dialog/TestDocuments.h"
 
 #include <gtest/gtest.h>
 
 using dialog::DocumentKind;
 using dialog::imageResolutionOf;
+using dialog::isTiffCutShort;
 
 namespace {
 
@@ -46,7 +47,7 @@ QByteArray tagList(char unit)
         + numbers.mid(1);
 }
 
-TEST(ImageResolution, PictureFilesSayTheirResolution)
+TEST(ImageHeader, PictureFilesSayTheirResolution)
 {
     for (const int dots : {72, 96, 300}) {
         expectDots(imageResolutionOf(DocumentKind::Png, picture("png", {4, 4}, dots)), dots, dots);
@@ -57,7 +58,7 @@ TEST(ImageResolution, PictureFilesSayTheirResolution)
     }
 }
 
-TEST(ImageResolution, FileMayStateNone)
+TEST(ImageHeader, FileMayStateNone)
 {
     EXPECT_FALSE(imageResolutionOf(DocumentKind::Png, picture("png", {4, 4}, 0)));
     EXPECT_FALSE(imageResolutionOf(DocumentKind::Jpeg, jpegHeader({})));
@@ -66,7 +67,7 @@ TEST(ImageResolution, FileMayStateNone)
     EXPECT_FALSE(imageResolutionOf(DocumentKind::Svg, svgDrawing()));
 }
 
-TEST(ImageResolution, HeaderOfAJpegCountsInInchesOrCentimetres)
+TEST(ImageHeader, HeaderOfAJpegCountsInInchesOrCentimetres)
 {
     expectDots(imageResolutionOf(DocumentKind::Jpeg, jpegHeader(QByteArray("\1\1\x2c\0\x96", 5))),
                300, 150);
@@ -74,7 +75,7 @@ TEST(ImageResolution, HeaderOfAJpegCountsInInchesOrCentimetres)
                254, 254);
 }
 
-TEST(ImageResolution, CamerasNoteComesBeforeTheHeader)
+TEST(ImageHeader, CamerasNoteComesBeforeTheHeader)
 {
     const QByteArray header("\1\1\x2c\1\x2c", 5);
     expectDots(imageResolutionOf(DocumentKind::Jpeg, jpegHeader(header, tagList(2))), 150, 75);
@@ -82,13 +83,13 @@ TEST(ImageResolution, CamerasNoteComesBeforeTheHeader)
     expectDots(imageResolutionOf(DocumentKind::Jpeg, jpegHeader(header, tagList(1))), 300, 300);
 }
 
-TEST(ImageResolution, TagsOfTiffCountInInchesOrCentimetres)
+TEST(ImageHeader, TagsOfTiffCountInInchesOrCentimetres)
 {
     expectDots(imageResolutionOf(DocumentKind::Tiff, tagList(2)), 150, 75);
     expectDots(imageResolutionOf(DocumentKind::Tiff, tagList(3)), 381, 190.5);
 }
 
-TEST(ImageResolution, EveryPictureOfATiffFileHasItsOwn)
+TEST(ImageHeader, EveryPictureOfATiffFileHasItsOwn)
 {
     const QByteArray file = tiffOfTwoPages();
     expectDots(imageResolutionOf(DocumentKind::Tiff, file, 0), 100, 100);
@@ -96,7 +97,21 @@ TEST(ImageResolution, EveryPictureOfATiffFileHasItsOwn)
     EXPECT_FALSE(imageResolutionOf(DocumentKind::Tiff, file, 2));
 }
 
-TEST(ImageResolution, CutFilesAreReadWithoutHarm)
+TEST(ImageHeader, TiffFileThatEndsBeforeItsLastPictureIsCutShort)
+{
+    const QByteArray file = tiffOfTwoPages();
+    EXPECT_FALSE(isTiffCutShort(file));
+    EXPECT_TRUE(isTiffCutShort(file.chopped(40)));
+    EXPECT_FALSE(isTiffCutShort(QByteArray("MM\0\x2b\0\0\0\x09", 8)));
+}
+
+TEST(ImageHeader, PicturesOfATiffFileThatLeadBackAreNotFollowedForEver)
+{
+    const QByteArray loop("MM\0\x2a\0\0\0\x08\0\0\0\0\0\x08", 14);
+    EXPECT_FALSE(isTiffCutShort(loop));
+}
+
+TEST(ImageHeader, CutFilesAreReadWithoutHarm)
 {
     const QByteArray files[] = {picture("png", {4, 4}, 300), tagList(2), tiffOfTwoPages(),
                                 jpegHeader(QByteArray("\1\1\x2c\1\x2c", 5), tagList(2))};
