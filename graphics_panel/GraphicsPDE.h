@@ -96,8 +96,7 @@ public:
 
 protected:
     void fillOutlets(platform::Outlets &outlets) override;
-    /// Puts the previews in the place of their placeholders and closes the gap of a missing
-    /// bi-directional option.
+    /// Puts the previews in place and closes the gap of a missing bi-directional option.
     void awakeFromNib() override;
 
 private:
@@ -189,7 +188,8 @@ private:
     ppd_option_t *mRedLevel_Option = nullptr;
     /// Null or an element of the choice list of the same option.
     PDEChoice *mHalftone_Selection = nullptr;
-    PDEChoice *mBrightness_Selection = nullptr, *mContrast_Selection = nullptr;
+    PDEChoice *mBrightness_Selection = nullptr;
+    PDEChoice *mContrast_Selection = nullptr;
     PDEChoice *mBiDiPrint_Selection = nullptr;
     PDEChoice *mColor_Selection = nullptr;
     PDEChoice *mRedLevel_Selection = nullptr;

@@ -98,6 +98,21 @@ TEST_F(GraphicsPDEBinding, PrinterWithoutPPDBindsNothing)
     expectNothingBound();
 }
 
+TEST_F(GraphicsPDEBinding, PrinterWithoutPPDIsShownAndAsksForNoMarks)
+{
+    useNoPpd();
+    makeView();
+    panel->willShow();
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    moveSlider("mBrightnessSlider", 5);
+    EXPECT_TRUE(panel->shouldPrint());
+    EXPECT_THAT(*panel->supportedPPDOptionKeys(), IsEmpty());
+    EXPECT_THAT(takeChanges(), IsEmpty());
+    EXPECT_EQ(label("mHalftoneTitle"), "HC_Halftone");
+    EXPECT_EQ(label("mBrightnessTitle"), "HC_Brightness");
+    EXPECT_FALSE(control<QCheckBox>("mBiDiPrintChkBx")->isEnabled());
+}
+
 TEST_F(GraphicsPDEBinding, DecliningBaseStillAnswersThePanelButBindsNothing)
 {
     host = std::make_shared<RecordingHost>(&*ppd);

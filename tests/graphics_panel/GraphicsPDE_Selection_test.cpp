@@ -91,6 +91,33 @@ TEST_F(GraphicsPDESelection, EitherBitOfTheColourAndRedLevelMasksNamesTheItem)
     }
 }
 
+TEST_F(GraphicsPDESelection, EitherBitOfTheColourMaskShowsTheColourAlone)
+{
+    for (const qint32 bit : {0x10000, 0x40000}) {
+        panel.reset();
+        makeView();
+        select("CvMultiColor", 1);
+        select("CvRedLevel", 1);
+        panel->updateUIItem(bit);
+        EXPECT_EQ(control<QComboBox>("mColorPUBtn")->currentIndex(), 1) << bit;
+        EXPECT_EQ(panel->imageModeFlag(), 1) << bit;
+        EXPECT_EQ(slider("mRedLevelSlider"), 0) << bit;
+    }
+}
+
+TEST_F(GraphicsPDESelection, EitherBitOfTheRedLevelMaskShowsTheRedLevelAlone)
+{
+    for (const qint32 bit : {0x200000, 0x400000}) {
+        panel.reset();
+        makeView();
+        select("CvMultiColor", 1);
+        select("CvRedLevel", 1);
+        panel->updateUIItem(bit);
+        EXPECT_EQ(slider("mRedLevelSlider"), 19) << bit;
+        EXPECT_EQ(control<QComboBox>("mColorPUBtn")->currentIndex(), 0) << bit;
+    }
+}
+
 TEST_F(GraphicsPDESelection, ReadingMarksTouchesNoControl)
 {
     ppd->mark("CvBrightness", "15");
