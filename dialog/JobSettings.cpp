@@ -55,6 +55,14 @@ bool isString(const QVariant &value)
 
 } // namespace
 
+void JobSettings::takeGeneralPart(const JobSettings &other)
+{
+    mTitle = other.mTitle;
+    mCopies = other.mCopies;
+    mPages = other.mPages;
+    mScaling = other.mScaling;
+}
+
 void JobSettings::setTitle(const QString &title)
 {
     mTitle = title;

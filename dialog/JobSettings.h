@@ -37,6 +37,9 @@ public:
     /// The status of a page number that no document has.
     static constexpr OSStatus kInvalidPage = -50;
 
+    /// Takes over what means the same to every printer: title, copies, pages and scaling.
+    void takeGeneralPart(const JobSettings &other);
+
     const QString &title() const { return mTitle; }
     /// Control characters become spaces: neither the print system nor a property list takes them.
     void setTitle(const QString &title);

@@ -284,6 +284,22 @@ std::optional<LabelSize> PpdFile::markedSize() const
     return size == nullptr ? std::nullopt : std::optional(sizeOf(*size));
 }
 
+QMarginsF PpdFile::margins(const LabelSize &size) const
+{
+    if (size.isCustom()) {
+        // In the PPD's order: left, bottom, right, top.
+        const float *custom = mPpd->custom_margins;
+        return {custom[0], custom[3], custom[2], custom[1]};
+    }
+    for (int i = 0; i < mPpd->num_sizes; ++i) {
+        const ppd_size_t &one = mPpd->sizes[i];
+        if (size.name == QLatin1String(one.name)) {
+            return {one.left, one.length - one.top, one.width - one.right, one.bottom};
+        }
+    }
+    return {};
+}
+
 std::optional<CustomSizeRange> PpdFile::customSizes() const
 {
     if (mPpd->variable_sizes == 0 || find(mPpd, kPageSize, kCustom) == nullptr) {

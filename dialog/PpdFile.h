@@ -6,6 +6,7 @@
 #include "dialog/OptionChoice.h"
 
 #include <QCoreApplication>
+#include <QMarginsF>
 #include <QString>
 #include <QStringList>
 
@@ -94,6 +95,9 @@ public:
 
     /// The marked size; named "Custom" when it is one of the user's own.
     std::optional<LabelSize> markedSize() const;
+
+    /// The edges of a label of this size that the printer cannot reach, in points.
+    QMarginsF margins(const LabelSize &size) const;
 
     /// Nothing when the PPD has only its own sizes.
     std::optional<CustomSizeRange> customSizes() const;

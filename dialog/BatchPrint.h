@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "dialog/CommandLine.h"
+#include "dialog/PrintController.h"
+
+namespace dialog {
+
+/// Prints one document without a dialog and says on the terminal what became of it.
+class BatchPrint : public QObject
+{
+    Q_OBJECT
+public:
+    /// `controller` outlives this.
+    explicit BatchPrint(PrintController &controller);
+
+    /// Runs the application's event loop until the job is handed over or has failed.
+    ExitCode run(const Printer &printer, const JobSettings &job, const DocumentPages &document);
+
+private:
+    void complained(const Failure &failure);
+    void fail(const Failure &failure);
+
+    PrintController &mController;
+    /// The first thing that stands in the way of the job.
+    std::optional<Failure> mFailure;
+};
+
+} // namespace dialog

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "dialog/DocumentPages.h"
+#include "dialog/PrintController.h"
+#include "dialog/PrinterList.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace dialog {
+
+class JobBox;
+class LabelSizeBox;
+class MessageBar;
+class PagePreview;
+class PanelTabs;
+
+/// The window: the document's page on its label, the printer, the job's settings and the panels.
+///
+/// Opens before any printer is known. Accepted means that the job is on its way.
+class PrintDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    /// Both outlive the window.
+    PrintDialog(PrintController &controller, PrinterList &printers, QWidget *parent = nullptr);
+    ~PrintDialog() override;
+
+    /// Null shows an empty label.
+    void setDocument(std::shared_ptr<const DocumentPages> document);
+
+    /// Starts with the copies, pages and scaling of `job`.
+    void setJob(const JobSettings &job);
+
+    /// Chooses the printer called `name` as soon as the list has it; empty takes the one that was
+    /// printed to last, or else the server's default.
+    void wishPrinter(const QString &name);
+
+    /// Shows a failure at the foot of the window.
+    void showFailure(const Failure &failure);
+
+    /// Whether everything is on screen that was asked for: the page, the printer's setup or a
+    /// sentence on why it is not there.
+    bool isSettled() const;
+
+Q_SIGNALS:
+    /// isSettled() may have become true.
+    void settled();
+
+public Q_SLOTS:
+    void done(int result) override;
+
+private:
+    QWidget *makeSettings();
+    QWidget *makeFoot();
+    void connectAll();
+    void openDocument();
+
+    void listChanged();
+    void serverFailed(const Failure &failure);
+    void choosePrinter(int row);
+    void showSetup();
+    void hideSetup();
+    void setupFailed(const Failure &failure);
+    void showPrinterState();
+
+    void jobEdited();
+    void sizePicked();
+    void choicePicked(const QString &option, const QString &choice);
+    void showMarks();
+    void showSheet();
+    void showClash();
+    void updatePrintButton();
+
+    void print();
+    void printed(const QString &where);
+    void jobFailed(const Failure &failure);
+    void setBusy(bool busy);
+
+    PrintController &mController;
+    PrinterList &mPrinters;
+    std::shared_ptr<const DocumentPages> mDocument;
+    JobSettings mJob;
+    QString mWishedPrinter;
+    bool mPrinterPicked = false;
+    bool mLoading = false;
+    std::optional<Failure> mJobFailure;
+    std::optional<Failure> mClash;
+
+    PagePreview *mPreview;
+    QComboBox *mPrinterBox;
+    QLabel *mPrinterState;
+    JobBox *mJobBox;
+    LabelSizeBox *mSizeBox;
+    PanelTabs *mPanels;
+    MessageBar *mMessages;
+    QProgressBar *mProgress;
+    QPushButton *mPrint;
+    QPushButton *mCancel;
+    QPushButton *mOpen;
+};
+
+} // namespace dialog
