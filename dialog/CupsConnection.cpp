@@ -29,9 +29,8 @@ QString useServer(const QString &server)
 {
     cupsSetPasswordCB2(noPassword, nullptr);
     const QByteArray name = server.toUtf8();
-    if (!name.isEmpty()) {
-        cupsSetServer(name.constData());
-    }
+    // libcups keeps a server for each thread, and threads are used again.
+    cupsSetServer(name.isEmpty() ? nullptr : name.constData());
     return server.isEmpty() ? QString::fromUtf8(cupsServer()) : server;
 }
 

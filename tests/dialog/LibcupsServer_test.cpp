@@ -43,6 +43,8 @@ protected:
         return file;
     }
 
+    void SetUp() override { qputenv("CUPS_SERVER", "/nonexistent/cups.sock"); }
+
     CupsServerFixture cups;
     LibcupsServer server{cups.address()};
     CancelFlag cancel;
@@ -154,6 +156,14 @@ TEST_F(LibcupsServerTest, ServerThatIsNotThereIsNamed)
     EXPECT_TRUE(printers.failure().why.startsWith(QStringLiteral("cannot be reached (")));
     EXPECT_FALSE(server.ppd(kLab, cancel));
     EXPECT_FALSE(server.openJob(kLab, cancel));
+}
+
+TEST_F(LibcupsServerTest, WithoutAnAddressTheSystemsServerIsAskedOnAThreadThatKnowsAnother)
+{
+    EXPECT_TRUE(server.printers(cancel));
+    const auto printers = LibcupsServer().printers(cancel);
+    ASSERT_FALSE(printers);
+    EXPECT_EQ(printers.failure().what, QStringLiteral("Print server /nonexistent/cups.sock"));
 }
 
 TEST_F(LibcupsServerTest, CancellingEndsTheWaitForASilentServer)
