@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <future>
 #include <thread>
 
 using dialog::CancelFlag;
@@ -170,12 +172,13 @@ TEST_F(LibcupsServerTest, CancellingEndsTheWaitForASilentServer)
 {
     cups.addQueue(kLab);
     cups.freeze();
-    std::thread later([this] {
-        QThread::msleep(100);
-        cancel.set();
-    });
-    const auto printers = server.printers(cancel);
-    later.join();
+    auto answer = std::async(std::launch::async, [this] { return server.printers(cancel); });
+    QThread::msleep(100);
+    cancel.set();
+    const bool hasEnded = answer.wait_for(std::chrono::seconds(20)) == std::future_status::ready;
+    cups.resume();
+    ASSERT_TRUE(hasEnded);
+    const auto printers = answer.get();
     ASSERT_FALSE(printers);
     EXPECT_EQ(printers.failure().kind, FailureKind::Cancelled);
 }
