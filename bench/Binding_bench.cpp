@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the Graphics panel does with an option of many choices, next to opening the same PPD. The
+// column `opens` tells how often the file could be opened in the time, measured in the same run;
+// `per_choice` is the time divided by the number of choices: it must not grow from row to row.
+#include "graphics_panel/GraphicsPDE.h"
+#include "platform/Bundle.h"
+
+#include <QApplication>
+#include <QTemporaryFile>
+
+#include <benchmark/benchmark.h>
+#include <cups/ppd.h>
+
+#include <algorithm>
+#include <ctime>
+#include <stdexcept>
+
+namespace {
+
+constexpr int kHighestLevel = 20;
+
+/// The six options of the panel: "CvBrightness" with `choices` levels, the others with two choices.
+QByteArray ppdText(int choices)
+{
+    QByteArray text = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n";
+    for (const char *keyword : {"CvHalftonePattern", "CvBrightness", "CvContrast", "CvBiDiPrint",
+                                "CvMultiColor", "CvRedLevel"}) {
+        const QByteArray option(keyword);
+        const int count = option == "CvBrightness" ? choices : 2;
+        text += "*OpenUI *" + option + "/" + option.mid(2) + ": PickOne\n";
+        text += "*Default" + option + ": " + QByteArray::number(kHighestLevel) + "\n";
+        for (int level = kHighestLevel; level > kHighestLevel - count; --level) {
+            const QByteArray number = QByteArray::number(level);
+            text += "*" + option + " " + number + "/Level " + number + ": \"\"\n";
+        }
+        text += "*CloseUI: *" + option + "\n";
+    }
+    return text;
+}
+
+/// A PPD on disk, and opened.
+class Ppd
+{
+public:
+    explicit Ppd(int choices)
+    {
+        const QByteArray text = ppdText(choices);
+        if (!mFile.open() || mFile.write(text) != text.size() || !mFile.flush()) {
+            throw std::runtime_error("A PPD for the benchmark cannot be written");
+        }
+        mPpd = ppdOpenFile(path().constData());
+        const ppd_option_t *option = ppdFindOption(mPpd, "CvBrightness");
+        if (!option || option->num_choices != choices) {
+            throw std::runtime_error("The PPD for the benchmark has not got all its choices");
+        }
+        ppdMarkDefaults(mPpd);
+    }
+    ~Ppd() { ppdClose(mPpd); }
+    Ppd(const Ppd &) = delete;
+    Ppd &operator=(const Ppd &) = delete;
+
+    ppd_file_t *get() const { return mPpd; }
+
+    void openOnceMore() const
+    {
+        ppd_file_t *ppd = ppdOpenFile(path().constData());
+        benchmark::DoNotOptimize(ppd);
+        ppdClose(ppd);
+    }
+
+private:
+    QByteArray path() const { return QFile::encodeName(mFile.fileName()); }
+
+    QTemporaryFile mFile;
+    ppd_file_t *mPpd = nullptr;
+};
+
+struct NoSettings : PMPrintSettings
+{
+    std::optional<QByteArray> value(const QString &) const override { return std::nullopt; }
+    PMResult<quint32> firstPage() const override { return {0, 1}; }
+    OSStatus setFirstPage(quint32) override { return 0; }
+    PMResult<quint32> lastPage() const override { return {0, 1}; }
+    OSStatus setLastPage(quint32) override { return 0; }
+    std::optional<QByteArray> dataRepresentation() const override { return std::nullopt; }
+};
+
+/// The least that a panel needs: it marks what it is asked to mark and tells the panel.
+class MarkingHost : public PDEPluginCallback13_v300_
+{
+public:
+    explicit MarkingHost(ppd_file_t *ppd)
+        : mPpd(ppd)
+    { }
+
+    PDEPanel *panel = nullptr;
+
+    PMPrintSession *printSession() const override { return nullptr; }
+    PMPrintSettings *printSettings() const override { return &mSettings; }
+    PMPageFormat *pageFormat() const override { return nullptr; }
+    ::PMPrinter *PMPrinter() const override { return nullptr; }
+    ppd_file_t *ppdFile() const override { return mPpd; }
+    bool respondsToSelector(QLatin1String) const override { return false; }
+
+    void willChangePPDOptionKeyValue(const QString &option,
+                                     const std::optional<QString> &ppdChoice) override
+    {
+        const QByteArray key = option.toUtf8();
+        const QByteArray choice = ppdChoice.value_or(QString()).toUtf8();
+        ppdMarkOption(mPpd, key.constData(), choice.constData());
+        if (panel) {
+            panel->PPDOptionKeyValueDidChange(option, ppdChoice);
+        }
+    }
+
+private:
+    ppd_file_t *mPpd;
+    mutable NoSettings mSettings;
+};
+
+/// A PPD with a host and the panel's bundle; panels are made from them.
+class Panels
+{
+public:
+    explicit Panels(const benchmark::State &state)
+        : mPpd(int(state.range(0)))
+        , host(std::make_shared<MarkingHost>(mPpd.get()))
+    { }
+
+    const Ppd &ppd() const { return mPpd; }
+
+    std::shared_ptr<GraphicsPDE13_v300_> bind()
+    {
+        auto panel = std::make_shared<GraphicsPDE13_v300_>();
+        panel->initWithCallback(host, &mBundle);
+        return panel;
+    }
+
+    /// A panel whose slider reaches every choice and stands at the last one, the farthest in every
+    /// search.
+    std::shared_ptr<GraphicsPDE13_v300_> showAtLastChoice(int choices)
+    {
+        auto panel = bind();
+        host->panel = panel.get();
+        mSlider = panel->panelView()->findChild<QSlider *>(QStringLiteral("mBrightnessSlider"));
+        panel->supportedPPDOptionKeys();
+        panel->willShow();
+        mSlider->setRange(kHighestLevel + 1 - choices, kHighestLevel);
+        mSlider->setValue(mSlider->minimum());
+        return panel;
+    }
+
+    QSlider *slider() const { return mSlider; }
+    QByteArray markedBrightness() const
+    {
+        const ppd_choice_t *marked = ppdFindMarkedChoice(mPpd.get(), "CvBrightness");
+        return marked ? marked->choice : QByteArray();
+    }
+
+private:
+    Ppd mPpd;
+    platform::Bundle mBundle{QStringLiteral(BUNDLE_DIR)};
+    QSlider *mSlider = nullptr;
+
+public:
+    std::shared_ptr<MarkingHost> host;
+};
+
+/// Processor time, so that other work on the machine does not count.
+double secondsSince(std::clock_t start)
+{
+    return double(std::clock() - start) / double(CLOCKS_PER_SEC);
+}
+
+/// The usual time of one opening: the median of several rounds.
+double secondsOfOpening(const Ppd &ppd, int choices)
+{
+    const int openings = std::max(1, 10000 / choices);
+    std::vector<double> rounds;
+    for (int round = 0; round < 15; ++round) {
+        const std::clock_t start = std::clock();
+        for (int i = 0; i < openings; ++i) {
+            ppd.openOnceMore();
+        }
+        rounds.push_back(secondsSince(start) / openings);
+    }
+    std::nth_element(rounds.begin(), rounds.begin() + 7, rounds.end());
+    return rounds[7];
+}
+
+template <typename Work> void measure(benchmark::State &state, const Ppd &ppd, Work work)
+{
+    const int choices = int(state.range(0));
+    const double openingSeconds = secondsOfOpening(ppd, choices);
+    const std::clock_t start = std::clock();
+    for (auto _ : state) {
+        work();
+        benchmark::ClobberMemory();
+    }
+    const double seconds = secondsSince(start) / double(state.iterations());
+    state.counters["opens"] = seconds / openingSeconds;
+    state.counters["per_choice"] = seconds / choices;
+}
+
+void openPpd(benchmark::State &state)
+{
+    const Ppd ppd(int(state.range(0)));
+    measure(state, ppd, [&ppd] { ppd.openOnceMore(); });
+}
+
+/// Made, bound and released.
+void bindPanel(benchmark::State &state)
+{
+    Panels panels(state);
+    measure(state, panels.ppd(), [&panels] { benchmark::DoNotOptimize(panels.bind()); });
+}
+
+/// The same with what a dialog asks at once: the claimed keys and what the summary says, for which
+/// the first titles are read.
+void bindAndFirstQuestions(benchmark::State &state)
+{
+    Panels panels(state);
+    measure(state, panels.ppd(), [&panels] {
+        const auto panel = panels.bind();
+        benchmark::DoNotOptimize(panel->supportedPPDOptionKeys());
+        panel->updateMarkedSelections(~0);
+        benchmark::DoNotOptimize(panel->summaryInfo());
+    });
+}
+
+/// The slider is moved to and fro between the last two choices.
+void brightnessAction(benchmark::State &state)
+{
+    Panels panels(state);
+    const auto panel = panels.showAtLastChoice(int(state.range(0)));
+    const int last = panels.slider()->minimum();
+    int step = 0;
+    measure(state, panels.ppd(), [&] { panels.slider()->setValue(last + (++step & 1)); });
+    if (panels.markedBrightness() != QByteArray::number(last + (step & 1))) {
+        state.SkipWithError("the slider does not mark its level");
+    }
+}
+
+void summary(benchmark::State &state)
+{
+    Panels panels(state);
+    const auto panel = panels.showAtLastChoice(int(state.range(0)));
+    panel->updateMarkedSelections(~0);
+    if (panel->summaryInfo()->size() != 7) {
+        state.SkipWithError("the summary has not got all six settings");
+    }
+    measure(state, panels.ppd(), [&] { benchmark::DoNotOptimize(panel->summaryInfo()); });
+}
+
+void add(const char *name, void (*function)(benchmark::State &))
+{
+    for (const int choices : {10, 100, 1000, 5000, 10000}) {
+        benchmark::RegisterBenchmark(name, function)->Arg(choices)->Unit(benchmark::kMicrosecond);
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    add("ppdOpenFile", openPpd);
+    add("bind", bindPanel);
+    add("bind, keys, first titles", bindAndFirstQuestions);
+    add("one brightness action", brightnessAction);
+    add("summaryInfo", summary);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
