@@ -76,7 +76,7 @@ void JobSettings::setTitle(const QString &title)
 std::optional<Failure> JobSettings::setCopies(int copies)
 {
     if (copies < 1 || copies > kMaxCopies) {
-        return Failure{FailureKind::Settings, tr("%1 copies").arg(copies),
+        return Failure{FailureKind::Settings, tr("%n copies", nullptr, copies),
                        tr("choose from 1 to %1").arg(kMaxCopies)};
     }
     mCopies = copies;

@@ -115,7 +115,7 @@ std::optional<Failure> PageRanges::check(quint32 pageCount) const
     if (first() <= pageCount) {
         return {};
     }
-    return bad(text(), PageRanges::tr("the document has only %1 pages").arg(pageCount));
+    return bad(text(), tr("the document has only %n pages", nullptr, int(pageCount)));
 }
 
 QString PageRanges::text() const
