@@ -36,7 +36,7 @@ Value PanelGuard::fenced(const char *operation, Cost cost, Value fallback, Call 
     } catch (const std::exception &error) {
         callFailed(operation, QString::fromUtf8(error.what()).simplified(), cost);
     } catch (...) {
-        callFailed(operation, tr("unknown error"), cost);
+        callFailed(operation, PanelGuard::tr("unknown error"), cost);
     }
     return fallback;
 }
