@@ -38,7 +38,7 @@ JobBox::JobBox(QWidget *parent)
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    addField(row, tr("C&opies:"), mCopies, 0);
+    addField(row, tr("&Copies:"), mCopies, 0);
     addField(row, tr("Pa&ges:"), mPages, 1);
     addField(row, tr("&Scale:"), mScaling, 0);
     setFocusProxy(mCopies);

@@ -71,7 +71,7 @@ QWidget *PrintDialog::makeSettings()
     mPrinterState->setObjectName(QStringLiteral("printerState"));
     mPrinterState->setTextFormat(Qt::PlainText);
     mPrinterState->setWordWrap(true);
-    form->addRow(tr("P&rinter:"), mPrinterBox);
+    form->addRow(tr("Pr&inter:"), mPrinterBox);
     form->addRow(QString(), mPrinterState);
     form->addRow(tr("&Label:"), mSizeBox);
     column->addLayout(form);
