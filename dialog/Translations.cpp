@@ -14,7 +14,10 @@ Translations::Translations()
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&mQt);
     }
-    if (mOwn.load(user, QStringLiteral("dialog"), QStringLiteral("_"), QStringLiteral(":/i18n"))) {
+    // Without a file for the user's languages the English one has the forms for one and for many.
+    const QString folder = QStringLiteral(":/i18n");
+    if (mOwn.load(user, QStringLiteral("dialog"), QStringLiteral("_"), folder)
+        || mOwn.load(QStringLiteral("dialog_en"), folder)) {
         QCoreApplication::installTranslator(&mOwn);
     }
 }

@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>dialog::JobSettings</name>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copy</numerusform>
+            <numerusform>%n copies</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>dialog::PageRanges</name>
+    <message numerus="yes">
+        <source>the document has only %n pages</source>
+        <translation>
+            <numerusform>the document has only %n page</numerusform>
+            <numerusform>the document has only %n pages</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
