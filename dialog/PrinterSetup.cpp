@@ -9,6 +9,7 @@ namespace {
 
 const QString kPageSize = QStringLiteral("PageSize");
 const QString kPageRegion = QStringLiteral("PageRegion");
+const LabelSize kUnknownLabel = LabelSize{QString(), QString(), 175.75, 283.46};
 
 std::shared_ptr<JobSettings> settingsFor(const JobSettings &job)
 {
@@ -41,7 +42,9 @@ void PrinterSetup::takeMarkedSize()
     if (ppd()) {
         settings().setLabelSize(ppd()->markedSize());
     }
-    mPageFormat->setSize(settings().labelSize());
+    // Panels take a job without any paper for a monochrome one, so an unknown label is a nameless
+    // one.
+    mPageFormat->setSize(settings().labelSize().value_or(kUnknownLabel));
 }
 
 std::optional<Failure> PrinterSetup::choose(const OptionChoices &choices)

@@ -138,6 +138,17 @@ TEST_F(PrinterSetupTest, PanelOptionsAreNotAmongTheUnclaimedOnes)
     EXPECT_THAT(setup->unclaimedOptions(), Not(Contains(QStringLiteral("PageSize"))));
 }
 
+TEST_F(PrinterSetupTest, AWishedColourModeSurvivesWhereThePpdHasNoSizes)
+{
+    auto ppd = PpdFile::open(QStringLiteral(TEST_DATA_DIR "/ppd/six-options.ppd"));
+    ASSERT_TRUE(ppd);
+    PrinterSetup setup(Printer::folder(), std::move(ppd).value(), {}, graphicsPlugIn());
+    ASSERT_FALSE(setup.choose({{kColour, kBlackRed}}));
+    setup.start(PanelSet::Views::None);
+    EXPECT_FALSE(setup.finish());
+    EXPECT_EQ(setup.settings().choice(kColour), kBlackRed);
+}
+
 TEST_F(PrinterSetupTest, APpdWithoutAnyOptionOfThePanelStillPrints)
 {
     auto ppd = PpdFile::open(QStringLiteral(TEST_DATA_DIR "/ppd/no-panel-options.ppd"));
