@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>there is none to show the dialog on; print with --no-dialog, or save a picture of the dialog with --screenshot</source>
-        <translation>il n’y en a aucun pour afficher la boîte de dialogue ; imprimez avec --no-dialog ou enregistrez-en une image avec --screenshot</translation>
+        <translation>il n’y en a aucun pour afficher la boîte de dialogue&#xa0;; imprimez avec --no-dialog ou enregistrez-en une image avec --screenshot</translation>
     </message>
     <message>
         <source>, the default</source>
@@ -21,26 +21,26 @@
     </message>
     <message>
         <source>there is no default printer; choose one with --printer</source>
-        <translation>il n’y a pas d’imprimante par défaut ; choisissez-en une avec --printer</translation>
+        <translation>il n’y a pas d’imprimante par défaut&#xa0;; choisissez-en une avec --printer</translation>
     </message>
     <message>
         <source>there is no such printer; --list-printers lists those there are</source>
-        <translation>cette imprimante n’existe pas ; --list-printers affiche celles qui existent</translation>
+        <translation>cette imprimante n’existe pas&#xa0;; --list-printers affiche celles qui existent</translation>
     </message>
 </context>
 <context>
     <name>dialog::BundleFinder</name>
     <message>
         <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>ce dossier n’existe pas ; indiquez à --plugin le chemin du dossier d’un module</translation>
+        <translation>ce dossier n’existe pas&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
     </message>
     <message>
         <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>c’est un fichier ; indiquez à --plugin le chemin du dossier d’un module</translation>
+        <translation>c’est un fichier&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
     </message>
     <message>
         <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
-        <translation>ce dossier ne contient aucun module ; indiquez à --plugin un dossier dont le nom se termine par .plugin ou qui contient de tels dossiers</translation>
+        <translation>ce dossier ne contient aucun module&#xa0;; indiquez à --plugin un dossier dont le nom se termine par .plugin ou qui contient de tels dossiers</translation>
     </message>
 </context>
 <context>
@@ -51,31 +51,31 @@
     </message>
     <message>
         <source>it is not a folder; install the plug-in again</source>
-        <translation>ce n’est pas un dossier ; réinstallez le module</translation>
+        <translation>ce n’est pas un dossier&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
-        <translation>son fichier de programme « %1 » est absent ; réinstallez le module</translation>
+        <translation>son fichier de programme «&#xa0;%1&#xa0;» est absent&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
-        <translation>son fichier bundle.json est absent ou illisible ; réinstallez le module</translation>
+        <translation>son fichier bundle.json est absent ou illisible&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
-        <translation>son fichier bundle.json dépasse %1 octets ; réinstallez le module</translation>
+        <translation>son fichier bundle.json dépasse %1 octets&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
-        <translation>son fichier de programme « %1 » ne peut pas être chargé (%2) ; installez la version du module prévue pour ce système</translation>
+        <translation>son fichier de programme «&#xa0;%1&#xa0;» ne peut pas être chargé (%2)&#xa0;; installez la version du module prévue pour ce système</translation>
     </message>
     <message>
         <source>its program file lacks the function %1; ask its maker for another one</source>
-        <translation>la fonction %1 manque dans son fichier de programme ; demandez-en un autre à son fabricant</translation>
+        <translation>la fonction %1 manque dans son fichier de programme&#xa0;; demandez-en un autre à son fabricant</translation>
     </message>
     <message>
         <source>it declines to work here; ask its maker which systems it is for</source>
-        <translation>il refuse de fonctionner ici ; demandez à son fabricant à quels systèmes il est destiné</translation>
+        <translation>il refuse de fonctionner ici&#xa0;; demandez à son fabricant à quels systèmes il est destiné</translation>
     </message>
     <message>
         <source>unknown error</source>
@@ -83,72 +83,72 @@
     </message>
     <message>
         <source>it failed to start (%1); install the plug-in again or remove it</source>
-        <translation>il n’a pas pu démarrer (%1) ; réinstallez le module ou supprimez-le</translation>
+        <translation>il n’a pas pu démarrer (%1)&#xa0;; réinstallez le module ou supprimez-le</translation>
     </message>
 </context>
 <context>
     <name>dialog::BundleMetadata</name>
     <message>
         <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
-        <translation>son fichier bundle.json est endommagé (%1, octet %2) ; réinstallez le module</translation>
+        <translation>son fichier bundle.json est endommagé (%1, octet %2)&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its bundle.json holds no JSON object; install the plug-in again</source>
-        <translation>son fichier bundle.json ne contient pas d’objet JSON ; réinstallez le module</translation>
+        <translation>son fichier bundle.json ne contient pas d’objet JSON&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>its bundle.json names no interface version; ask its maker for another one</source>
-        <translation>son fichier bundle.json n’indique pas de version d’interface ; demandez-en un autre à son fabricant</translation>
+        <translation>son fichier bundle.json n’indique pas de version d’interface&#xa0;; demandez-en un autre à son fabricant</translation>
     </message>
     <message>
         <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
-        <translation>il est fait pour la version %1 de l’interface de la boîte de dialogue d’impression, et celle-ci est la version %2 ; installez une version qui lui convient</translation>
+        <translation>il est fait pour la version %1 de l’interface de la boîte de dialogue d’impression, et celle-ci est la version %2&#xa0;; installez une version qui lui convient</translation>
     </message>
     <message>
         <source>its bundle.json names no principal class; ask its maker for another one</source>
-        <translation>son fichier bundle.json n’indique pas de classe principale ; demandez-en un autre à son fabricant</translation>
+        <translation>son fichier bundle.json n’indique pas de classe principale&#xa0;; demandez-en un autre à son fabricant</translation>
     </message>
     <message>
         <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
-        <translation>son fichier bundle.json ne désigne pas le fichier de programme par un simple nom de fichier ; demandez-en un autre à son fabricant</translation>
+        <translation>son fichier bundle.json ne désigne pas le fichier de programme par un simple nom de fichier&#xa0;; demandez-en un autre à son fabricant</translation>
     </message>
     <message>
         <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
-        <translation>il n’a pas de panneau pour la boîte de dialogue d’impression ; supprimez-le ou installez le bon module</translation>
+        <translation>il n’a pas de panneau pour la boîte de dialogue d’impression&#xa0;; supprimez-le ou installez le bon module</translation>
     </message>
 </context>
 <context>
     <name>dialog::BundleTrust</name>
     <message>
         <source>it holds more than %1 files; install the plug-in again</source>
-        <translation>il contient plus de %1 fichiers ; réinstallez le module</translation>
+        <translation>il contient plus de %1 fichiers&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
-        <translation>« %1 » qu’il contient ne peut pas être examiné ; réinstallez le module</translation>
+        <translation>«&#xa0;%1&#xa0;» qu’il contient ne peut pas être examiné&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
-        <translation>« %1 » qu’il contient n’est ni un fichier ni un dossier ; réinstallez le module</translation>
+        <translation>«&#xa0;%1&#xa0;» qu’il contient n’est ni un fichier ni un dossier&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
-        <translation>« %1 » appartient à un autre utilisateur, qui pourrait modifier son comportement ; installez le module vous-même ou en tant que root</translation>
+        <translation>«&#xa0;%1&#xa0;» appartient à un autre utilisateur, qui pourrait modifier son comportement&#xa0;; installez le module vous-même ou en tant que root</translation>
     </message>
     <message>
         <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
-        <translation>d’autres peuvent écrire dans « %1 » et ainsi modifier son comportement ; exécutez chmod -R go-w &quot;%2&quot; si vous faites confiance à son contenu</translation>
+        <translation>d’autres peuvent écrire dans «&#xa0;%1&#xa0;» et ainsi modifier son comportement&#xa0;; exécutez chmod -R go-w &quot;%2&quot; si vous faites confiance à son contenu</translation>
     </message>
     <message>
         <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
-        <translation>le lien « %1 » qu’il contient mène hors de son dossier ou nulle part ; réinstallez le module</translation>
+        <translation>le lien «&#xa0;%1&#xa0;» qu’il contient mène hors de son dossier ou nulle part&#xa0;; réinstallez le module</translation>
     </message>
 </context>
 <context>
     <name>dialog::CommandLineReader</name>
     <message>
         <source>The document to print: PDF, PNG, JPEG, TIFF or SVG.</source>
-        <translation>Le document à imprimer : PDF, PNG, JPEG, TIFF ou SVG.</translation>
+        <translation>Le document à imprimer&#xa0;: PDF, PNG, JPEG, TIFF ou SVG.</translation>
     </message>
     <message>
         <source>[document]</source>
@@ -180,7 +180,7 @@
     </message>
     <message>
         <source>Set an option of the printer; may be given several times.</source>
-        <translation>Régler une option de l’imprimante ; peut être répété.</translation>
+        <translation>Régler une option de l’imprimante&#xa0;; peut être répété.</translation>
     </message>
     <message>
         <source>option=choice</source>
@@ -235,7 +235,7 @@
   4  the printer, its PPD or a setting for it cannot be used
   5  the job could not be handed over
 </source>
-        <translation>Codes de sortie :
+        <translation>Codes de sortie&#xa0;:
   0  imprimé, ou autre demande exécutée
   1  la boîte de dialogue a été fermée sans imprimer
   2  la ligne de commande est inutilisable
@@ -270,11 +270,11 @@
     </message>
     <message>
         <source>there is no dialog to picture with --no-dialog; give one of the two</source>
-        <translation>avec --no-dialog, il n’y a pas de boîte de dialogue à représenter ; indiquez l’une des deux options</translation>
+        <translation>avec --no-dialog, il n’y a pas de boîte de dialogue à représenter&#xa0;; indiquez l’une des deux options</translation>
     </message>
     <message>
         <source>--ppd and --output print to a folder; leave out --printer, or the two</source>
-        <translation>--ppd et --output impriment dans un dossier ; retirez --printer, ou ces deux options</translation>
+        <translation>--ppd et --output impriment dans un dossier&#xa0;; retirez --printer, ou ces deux options</translation>
     </message>
     <message>
         <source>needs the name of a document to print</source>
@@ -293,15 +293,15 @@
     </message>
     <message>
         <source>cannot be reached (%1); start it, or print into a folder</source>
-        <translation>est injoignable (%1) ; démarrez-le ou imprimez dans un dossier</translation>
+        <translation>est injoignable (%1)&#xa0;; démarrez-le ou imprimez dans un dossier</translation>
     </message>
     <message>
         <source>the print server has no such printer; choose another one</source>
-        <translation>le serveur d’impression n’a pas cette imprimante ; choisissez-en une autre</translation>
+        <translation>le serveur d’impression n’a pas cette imprimante&#xa0;; choisissez-en une autre</translation>
     </message>
     <message>
         <source>does not accept jobs at the moment; choose another printer or ask its owner</source>
-        <translation>n’accepte pas de travaux pour le moment ; choisissez une autre imprimante ou demandez à son responsable</translation>
+        <translation>n’accepte pas de travaux pour le moment&#xa0;; choisissez une autre imprimante ou demandez à son responsable</translation>
     </message>
     <message>
         <source>does not take documents of this kind</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>broke off the connection (%1); try again when it is back</source>
-        <translation>a coupé la connexion (%1) ; réessayez quand il sera de nouveau disponible</translation>
+        <translation>a coupé la connexion (%1)&#xa0;; réessayez quand il sera de nouveau disponible</translation>
     </message>
     <message>
         <source>the print server refused the job (%1)</source>
@@ -324,7 +324,7 @@
     <name>dialog::DialogRun</name>
     <message>
         <source>the picture cannot be written; give a file ending in .png in a folder that can be written to</source>
-        <translation>l’image ne peut pas être écrite ; indiquez un fichier en .png dans un dossier accessible en écriture</translation>
+        <translation>l’image ne peut pas être écrite&#xa0;; indiquez un fichier en .png dans un dossier accessible en écriture</translation>
     </message>
 </context>
 <context>
@@ -335,15 +335,15 @@
     </message>
     <message>
         <source>is a folder; choose a document in it</source>
-        <translation>est un dossier ; choisissez un document qu’il contient</translation>
+        <translation>est un dossier&#xa0;; choisissez un document qu’il contient</translation>
     </message>
     <message>
         <source>is not an ordinary file; choose a document</source>
-        <translation>n’est pas un fichier ordinaire ; choisissez un document</translation>
+        <translation>n’est pas un fichier ordinaire&#xa0;; choisissez un document</translation>
     </message>
     <message>
         <source>is larger than %1 MB; choose a smaller document</source>
-        <translation>dépasse %1 Mo ; choisissez un document plus petit</translation>
+        <translation>dépasse %1 Mo&#xa0;; choisissez un document plus petit</translation>
     </message>
     <message>
         <source>cannot be read (%1)</source>
@@ -351,11 +351,11 @@
     </message>
     <message>
         <source>is empty; choose another document</source>
-        <translation>est vide ; choisissez un autre document</translation>
+        <translation>est vide&#xa0;; choisissez un autre document</translation>
     </message>
     <message>
         <source>is no PDF, PNG, JPEG, TIFF or SVG document; choose one of these</source>
-        <translation>n’est pas un document PDF, PNG, JPEG, TIFF ou SVG ; choisissez-en un de ce type</translation>
+        <translation>n’est pas un document PDF, PNG, JPEG, TIFF ou SVG&#xa0;; choisissez-en un de ce type</translation>
     </message>
     <message>
         <source>page %1 is damaged and cannot be shown</source>
@@ -375,14 +375,14 @@
     </message>
     <message>
         <source>has a damaged page; save or export it once more</source>
-        <translation>contient une page endommagée ; enregistrez-le ou exportez-le de nouveau</translation>
+        <translation>contient une page endommagée&#xa0;; enregistrez-le ou exportez-le de nouveau</translation>
     </message>
 </context>
 <context>
     <name>dialog::FolderPrinter</name>
     <message>
         <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>ne peut pas être écrit (%1) ; choisissez un autre dossier ou libérez de la place</translation>
+        <translation>ne peut pas être écrit (%1)&#xa0;; choisissez un autre dossier ou libérez de la place</translation>
     </message>
     <message>
         <source>the settings of the job cannot be written down</source>
@@ -402,30 +402,30 @@
     </message>
     <message>
         <source>cannot be made; choose another folder</source>
-        <translation>ne peut pas être créé ; choisissez un autre dossier</translation>
+        <translation>ne peut pas être créé&#xa0;; choisissez un autre dossier</translation>
     </message>
     <message>
         <source>cannot be written to; choose another folder</source>
-        <translation>n’est pas accessible en écriture ; choisissez un autre dossier</translation>
+        <translation>n’est pas accessible en écriture&#xa0;; choisissez un autre dossier</translation>
     </message>
     <message>
         <source>takes no more jobs; choose another folder</source>
-        <translation>n’accepte plus de travaux ; choisissez un autre dossier</translation>
+        <translation>n’accepte plus de travaux&#xa0;; choisissez un autre dossier</translation>
     </message>
 </context>
 <context>
     <name>dialog::ImagePages</name>
     <message>
         <source>is a damaged picture; save or export it once more</source>
-        <translation>est une image endommagée ; enregistrez-la ou exportez-la de nouveau</translation>
+        <translation>est une image endommagée&#xa0;; enregistrez-la ou exportez-la de nouveau</translation>
     </message>
     <message>
         <source>is a TIFF picture, and Qt&apos;s plug-in for these is not installed; install the package qt6-image-formats-plugins</source>
-        <translation>est une image TIFF, et le module de Qt pour ce format n’est pas installé ; installez le paquet qt6-image-formats-plugins</translation>
+        <translation>est une image TIFF, et le module de Qt pour ce format n’est pas installé&#xa0;; installez le paquet qt6-image-formats-plugins</translation>
     </message>
     <message>
         <source>has %1 x %2 pixels, too many for a label; make the picture smaller</source>
-        <translation>compte %1 x %2 pixels, trop pour une étiquette ; réduisez l’image</translation>
+        <translation>compte %1 x %2 pixels, trop pour une étiquette&#xa0;; réduisez l’image</translation>
     </message>
 </context>
 <context>
@@ -444,22 +444,22 @@
     </message>
     <message>
         <source>&amp;Copies:</source>
-        <translation>&amp;Copies :</translation>
+        <translation>&amp;Copies&#xa0;:</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>Pa&amp;ges :</translation>
+        <translation>Pa&amp;ges&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Scale:</source>
-        <translation>Éch&amp;elle :</translation>
+        <translation>Éch&amp;elle&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>dialog::JobLog</name>
     <message>
         <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>ne peut pas être écrit (%1) ; choisissez un autre dossier ou libérez de la place</translation>
+        <translation>ne peut pas être écrit (%1)&#xa0;; choisissez un autre dossier ou libérez de la place</translation>
     </message>
 </context>
 <context>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>; job %1 may still be on the print server</source>
-        <translation> ; le travail %1 est peut-être encore sur le serveur d’impression</translation>
+        <translation>&#xa0;; le travail %1 est peut-être encore sur le serveur d’impression</translation>
     </message>
 </context>
 <context>
@@ -492,7 +492,7 @@
     </message>
     <message>
         <source>Copies “%1”</source>
-        <translation>Copies « %1 »</translation>
+        <translation>Copies «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>write a number from 1 to %1</source>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>is no label size; write width and height like 60x100mm</source>
-        <translation>n’est pas une taille d’étiquette ; écrivez la largeur et la hauteur comme 60x100mm</translation>
+        <translation>n’est pas une taille d’étiquette&#xa0;; écrivez la largeur et la hauteur comme 60x100mm</translation>
     </message>
     <message>
         <source>%1 × %2 mm</source>
@@ -583,14 +583,14 @@
     <message>
         <source>%1: %2</source>
         <comment>page number, what is wrong with it</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>dialog::PageRanges</name>
     <message>
         <source>Pages “%1”</source>
-        <translation>Pages « %1 »</translation>
+        <translation>Pages «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>write page numbers and ranges like 1-3,5</source>
@@ -602,7 +602,7 @@
     </message>
     <message>
         <source>a range begins with its smaller number; write %1-%2</source>
-        <translation>une plage commence par son plus petit numéro ; écrivez %1-%2</translation>
+        <translation>une plage commence par son plus petit numéro&#xa0;; écrivez %1-%2</translation>
     </message>
     <message numerus="yes">
         <source>the document has only %n pages</source>
@@ -624,11 +624,11 @@
     </message>
     <message>
         <source>%1; ask its maker for a newer version</source>
-        <translation>%1 ; demandez une version plus récente à son fabricant</translation>
+        <translation>%1&#xa0;; demandez une version plus récente à son fabricant</translation>
     </message>
     <message>
         <source>%1, its third fault; ask its maker for a newer version</source>
-        <translation>%1, sa troisième erreur ; demandez une version plus récente à son fabricant</translation>
+        <translation>%1, sa troisième erreur&#xa0;; demandez une version plus récente à son fabricant</translation>
     </message>
     <message>
         <source>%1 is switched off</source>
@@ -644,11 +644,11 @@
     </message>
     <message>
         <source>it has no view; install the plug-in again</source>
-        <translation>il n’a rien à afficher ; réinstallez le module</translation>
+        <translation>il n’a rien à afficher&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>it cannot take over its settings; check them</source>
-        <translation>il ne peut pas reprendre ses réglages ; vérifiez-les</translation>
+        <translation>il ne peut pas reprendre ses réglages&#xa0;; vérifiez-les</translation>
     </message>
 </context>
 <context>
@@ -663,7 +663,7 @@
     </message>
     <message>
         <source>it failed to make its panels (%1); ask its maker for a newer version</source>
-        <translation>il n’a pas pu créer ses panneaux (%1) ; demandez une version plus récente à son fabricant</translation>
+        <translation>il n’a pas pu créer ses panneaux (%1)&#xa0;; demandez une version plus récente à son fabricant</translation>
     </message>
     <message>
         <source>a panel of plug-in %1 is left out</source>
@@ -671,15 +671,15 @@
     </message>
     <message>
         <source>the plug-in could not make it; install the plug-in again</source>
-        <translation>le module n’a pas pu le créer ; réinstallez le module</translation>
+        <translation>le module n’a pas pu le créer&#xa0;; réinstallez le module</translation>
     </message>
     <message>
         <source>it wants to set the option %1, which the printer does not have; install the plug-in for this printer</source>
-        <translation>il veut régler l’option %1, que l’imprimante n’a pas ; installez le module prévu pour cette imprimante</translation>
+        <translation>il veut régler l’option %1, que l’imprimante n’a pas&#xa0;; installez le module prévu pour cette imprimante</translation>
     </message>
     <message>
         <source>it wants to set the option %1, which another panel sets already; remove one of the two plug-ins</source>
-        <translation>il veut régler l’option %1, qu’un autre panneau règle déjà ; supprimez l’un des deux modules</translation>
+        <translation>il veut régler l’option %1, qu’un autre panneau règle déjà&#xa0;; supprimez l’un des deux modules</translation>
     </message>
     <message>
         <source>panel %1</source>
@@ -687,7 +687,7 @@
     </message>
     <message>
         <source>it does not let the job start; check its settings</source>
-        <translation>il empêche le travail de démarrer ; vérifiez ses réglages</translation>
+        <translation>il empêche le travail de démarrer&#xa0;; vérifiez ses réglages</translation>
     </message>
     <message>
         <source>it tried to set the option %1, which is not its own</source>
@@ -705,19 +705,19 @@
     <name>dialog::PdfPages</name>
     <message>
         <source>is protected by a password; save a copy without one and print that</source>
-        <translation>est protégé par un mot de passe ; enregistrez une copie sans mot de passe et imprimez-la</translation>
+        <translation>est protégé par un mot de passe&#xa0;; enregistrez une copie sans mot de passe et imprimez-la</translation>
     </message>
     <message>
         <source>is encrypted in a way that cannot be read; save a copy without encryption</source>
-        <translation>est chiffré d’une manière illisible ici ; enregistrez une copie sans chiffrement</translation>
+        <translation>est chiffré d’une manière illisible ici&#xa0;; enregistrez une copie sans chiffrement</translation>
     </message>
     <message>
         <source>is a damaged PDF document; save or export it once more</source>
-        <translation>est un document PDF endommagé ; enregistrez-le ou exportez-le de nouveau</translation>
+        <translation>est un document PDF endommagé&#xa0;; enregistrez-le ou exportez-le de nouveau</translation>
     </message>
     <message>
         <source>has no pages; choose another document</source>
-        <translation>n’a aucune page ; choisissez un autre document</translation>
+        <translation>n’a aucune page&#xa0;; choisissez un autre document</translation>
     </message>
 </context>
 <context>
@@ -728,11 +728,11 @@
     </message>
     <message>
         <source>is a folder; choose the PPD file in it</source>
-        <translation>est un dossier ; choisissez le fichier PPD qu’il contient</translation>
+        <translation>est un dossier&#xa0;; choisissez le fichier PPD qu’il contient</translation>
     </message>
     <message>
         <source>is not an ordinary file; choose a PPD file</source>
-        <translation>n’est pas un fichier ordinaire ; choisissez un fichier PPD</translation>
+        <translation>n’est pas un fichier ordinaire&#xa0;; choisissez un fichier PPD</translation>
     </message>
     <message>
         <source>cannot be read (%1)</source>
@@ -740,19 +740,19 @@
     </message>
     <message>
         <source>is empty; choose the printer&apos;s PPD file</source>
-        <translation>est vide ; choisissez le fichier PPD de l’imprimante</translation>
+        <translation>est vide&#xa0;; choisissez le fichier PPD de l’imprimante</translation>
     </message>
     <message>
         <source>is not a usable PPD (%1); choose another one</source>
-        <translation>n’est pas un PPD utilisable (%1) ; choisissez-en un autre</translation>
+        <translation>n’est pas un PPD utilisable (%1)&#xa0;; choisissez-en un autre</translation>
     </message>
     <message>
         <source>is not a usable PPD (line %1: %2); choose another one</source>
-        <translation>n’est pas un PPD utilisable (ligne %1 : %2) ; choisissez-en un autre</translation>
+        <translation>n’est pas un PPD utilisable (ligne %1&#xa0;: %2)&#xa0;; choisissez-en un autre</translation>
     </message>
     <message>
         <source>the printer has no such option; its options are %1</source>
-        <translation>l’imprimante n’a pas cette option ; ses options sont %1</translation>
+        <translation>l’imprimante n’a pas cette option&#xa0;; ses options sont %1</translation>
     </message>
     <message>
         <source>give the size of the label too, like Custom.60x100mm</source>
@@ -760,11 +760,11 @@
     </message>
     <message>
         <source>the option has no such choice; its choices are %1</source>
-        <translation>l’option n’a pas cette valeur ; ses valeurs sont %1</translation>
+        <translation>l’option n’a pas cette valeur&#xa0;; ses valeurs sont %1</translation>
     </message>
     <message>
         <source>the printer takes no sizes of your own; choose one of its sizes</source>
-        <translation>l’imprimante n’accepte pas de taille personnalisée ; choisissez l’une de ses tailles</translation>
+        <translation>l’imprimante n’accepte pas de taille personnalisée&#xa0;; choisissez l’une de ses tailles</translation>
     </message>
     <message>
         <source>the printer takes widths of %1 to %2 mm and heights of %3 to %4 mm</source>
@@ -802,11 +802,11 @@
     </message>
     <message>
         <source>Pr&amp;inter:</source>
-        <translation>Im&amp;primante :</translation>
+        <translation>Im&amp;primante&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Label:</source>
-        <translation>Éti&amp;quette :</translation>
+        <translation>Éti&amp;quette&#xa0;:</translation>
     </message>
     <message>
         <source>Print Label - %1</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>there is no such printer; another one is chosen</source>
-        <translation>cette imprimante n’existe pas ; une autre est choisie</translation>
+        <translation>cette imprimante n’existe pas&#xa0;; une autre est choisie</translation>
     </message>
     <message>
         <source>Looking for printers...</source>
@@ -830,7 +830,7 @@
     </message>
     <message>
         <source>the printer is not there any more; %1 is chosen now</source>
-        <translation>l’imprimante n’est plus là ; %1 est choisie à présent</translation>
+        <translation>l’imprimante n’est plus là&#xa0;; %1 est choisie à présent</translation>
     </message>
     <message>
         <source>Asking for the printer&apos;s settings...</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>is empty; there is nothing to print</source>
-        <translation>est vide ; il n’y a rien à imprimer</translation>
+        <translation>est vide&#xa0;; il n’y a rien à imprimer</translation>
     </message>
 </context>
 <context>
@@ -932,45 +932,45 @@
     <message>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
-        <translation>%1 « %2 »</translation>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>cannot be had together with %1; change one of the two</source>
-        <translation>est incompatible avec %1 ; changez l’un des deux</translation>
+        <translation>est incompatible avec %1&#xa0;; changez l’un des deux</translation>
     </message>
 </context>
 <context>
     <name>dialog::SvgContent</name>
     <message>
         <source>needs another file (%1), which is not read; put it into the drawing</source>
-        <translation>a besoin d’un autre fichier (%1), qui n’est pas lu ; intégrez-le au dessin</translation>
+        <translation>a besoin d’un autre fichier (%1), qui n’est pas lu&#xa0;; intégrez-le au dessin</translation>
     </message>
     <message>
         <source>is nested too deeply to be drawn; make the drawing simpler</source>
-        <translation>a trop de niveaux imbriqués pour être dessiné ; simplifiez le dessin</translation>
+        <translation>a trop de niveaux imbriqués pour être dessiné&#xa0;; simplifiez le dessin</translation>
     </message>
     <message>
         <source>is a damaged SVG drawing (line %1: %2)</source>
-        <translation>est un dessin SVG endommagé (ligne %1 : %2)</translation>
+        <translation>est un dessin SVG endommagé (ligne %1&#xa0;: %2)</translation>
     </message>
     <message>
         <source>has too many repeated shapes; make the drawing simpler</source>
-        <translation>contient trop de formes répétées ; simplifiez le dessin</translation>
+        <translation>contient trop de formes répétées&#xa0;; simplifiez le dessin</translation>
     </message>
 </context>
 <context>
     <name>dialog::SvgPages</name>
     <message>
         <source>is an SVG drawing that cannot be drawn; export it once more</source>
-        <translation>est un dessin SVG qui ne peut pas être rendu ; exportez-le de nouveau</translation>
+        <translation>est un dessin SVG qui ne peut pas être rendu&#xa0;; exportez-le de nouveau</translation>
     </message>
     <message>
         <source>is an SVG drawing of no size; give it a width and a height</source>
-        <translation>est un dessin SVG sans taille ; donnez-lui une largeur et une hauteur</translation>
+        <translation>est un dessin SVG sans taille&#xa0;; donnez-lui une largeur et une hauteur</translation>
     </message>
     <message>
         <source>is an SVG drawing of more than five metres; make it smaller</source>
-        <translation>est un dessin SVG de plus de cinq mètres ; réduisez-le</translation>
+        <translation>est un dessin SVG de plus de cinq mètres&#xa0;; réduisez-le</translation>
     </message>
 </context>
 </TS>
