@@ -174,18 +174,17 @@ TEST_P(OddPpd, IsSetUpAndFinishedWithoutAComplaint)
     EXPECT_TRUE(setup.panels().panels().at(0)->view());
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, OddPpd,
-                         testing::Values("no-bidi.ppd", "no-colour.ppd", "no-required-options.ppd",
-                                         "two-defaults.ppd", "no-default.ppd",
-                                         "default-is-no-choice.ppd", "thousand-choices.ppd",
-                                         "duplicate-choices.ppd", "undecodable-titles.ppd",
-                                         "short-lists.ppd", "other-spelling.ppd", "truncated.ppd"),
-                         [](const auto &row) {
-                             std::string name = row.param;
-                             std::replace_if(
-                                 name.begin(), name.end(),
-                                 [](char c) { return c == '-' || c == '.'; }, '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Files, OddPpd,
+    testing::Values("no-bidi.ppd", "no-colour.ppd", "no-required-options.ppd", "two-defaults.ppd",
+                    "no-default.ppd", "default-is-no-choice.ppd", "thousand-choices.ppd",
+                    "duplicate-choices.ppd", "undecodable-titles.ppd", "short-lists.ppd",
+                    "other-spelling.ppd", "truncated.ppd", "empty-choice-list.ppd"),
+    [](const auto &row) {
+        std::string name = row.param;
+        std::replace_if(
+            name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
+        return name;
+    });
 
 } // namespace
