@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QTimer>
 
 #include <cmath>
 
@@ -14,6 +15,10 @@ namespace {
 
 constexpr double kEdge = 16;
 constexpr int kShadow = 9;
+
+/// How long the first page waits for a window that is shown but not painted, in milliseconds: one
+/// on another desktop may never be.
+constexpr int kLongestWait = 250;
 
 // To whole pixels of the screen, so that a rendered page is painted pixel by pixel.
 QPointF onPixels(const QPointF &point, double ratio)
@@ -84,10 +89,16 @@ void PageCanvas::ask()
         return;
     }
     const PageRequest request = wanted();
-    if (isVisible() && request != mAsked) {
+    if (mMayAsk && isVisible() && request != mAsked) {
         mAsked = request;
         mRenderer.render(request);
     }
+}
+
+void PageCanvas::beginAsking()
+{
+    mMayAsk = true;
+    ask();
 }
 
 void PageCanvas::show(const PagePicture &picture)
@@ -132,8 +143,12 @@ QString PageCanvas::message() const
 
 void PageCanvas::paintEvent(QPaintEvent *)
 {
-    // A window that moves to another screen gets no resize.
-    ask();
+    if (mMayAsk) {
+        // A window that moves to another screen gets no resize.
+        ask();
+    } else {
+        QTimer::singleShot(0, this, &PageCanvas::beginAsking);
+    }
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), palette().color(QPalette::Window).darker(112));
@@ -228,6 +243,9 @@ void PageCanvas::resizeEvent(QResizeEvent *event)
 void PageCanvas::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    if (!mMayAsk) {
+        QTimer::singleShot(kLongestWait, this, &PageCanvas::beginAsking);
+    }
     ask();
 }
 

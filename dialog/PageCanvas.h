@@ -48,6 +48,7 @@ private:
     PageRequest wanted() const;
     Sheet sheet() const;
     void ask();
+    void beginAsking();
     void show(const PagePicture &picture);
     void paintSheet(QPainter &painter) const;
     void paintPage(QPainter &painter) const;
@@ -58,6 +59,8 @@ private:
     PageRequest mRequest;
     /// The request that was passed on last.
     PageRequest mAsked;
+    /// The whole window is on screen before the rendering of its first page takes processor time.
+    bool mMayAsk = false;
     /// The picture that is shown; of no document when there is none yet.
     PagePicture mPicture;
 };

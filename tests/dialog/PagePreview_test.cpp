@@ -314,4 +314,25 @@ TEST_F(PagePreviewTest, PageIsAsFineAsTheScreen)
     }
 }
 
+TEST_F(PagePreviewTest, PageIsRenderedOnlyAfterTheWindowHasBeenPainted)
+{
+    PagePreview fresh;
+    fresh.setDocument(opened(pdfOfPages(1)));
+    fresh.show();
+    // Time enough for a rendering, whose picture would be taken over here.
+    QTest::qSleep(200);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    EXPECT_FALSE(fresh.isUpToDate());
+    EXPECT_TRUE(QTest::qWaitFor([&fresh] { return fresh.isUpToDate(); }));
+}
+
+TEST_F(PagePreviewTest, PageOfAShownWindowThatIsNeverPaintedIsRenderedAllTheSame)
+{
+    PagePreview unpainted;
+    unpainted.setUpdatesEnabled(false);
+    unpainted.setDocument(opened(pdfOfPages(1)));
+    unpainted.show();
+    EXPECT_TRUE(QTest::qWaitFor([&unpainted] { return unpainted.isUpToDate(); }));
+}
+
 } // namespace
