@@ -6,8 +6,8 @@ target_compile_definitions(project_options INTERFACE
 target_compile_options(project_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # False alarms of g++ 12 on std::optional and QString in optimised code.
-  target_compile_options(project_options INTERFACE -Wno-maybe-uninitialized)
+  # False alarms of g++ 12 on std::optional, QString and std::string in optimised code.
+  target_compile_options(project_options INTERFACE -Wno-maybe-uninitialized -Wno-restrict)
 endif()
 if(LABELPRINT_SANITIZE)
   target_compile_options(project_options INTERFACE
