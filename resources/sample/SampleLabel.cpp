@@ -121,8 +121,7 @@ void paintPallet(QPainter &painter)
     paintFragile(painter, QRectF(kLeft + 3 * gap + 2 * kSymbol, 4530, kSymbol, kSymbol));
 
     paintTones(painter, QRectF(kLeft, 5930, kAcross, 560));
-    paintWarning(painter, QRectF(kLeft, 6580, kAcross, 700),
-                 QStringLiteral("Return empty boxes"));
+    paintWarning(painter, QRectF(kLeft, 6580, kAcross, 700), QStringLiteral("Return empty boxes"));
     paintBarCode(painter, QRectF(900, 7480, 4560, 2170), QStringLiteral("200117000802"));
 }
 
