@@ -110,11 +110,8 @@ ExitCode Application::listPrinters()
 {
     CancelFlag never;
     const auto printers = mServer->printers(never);
-    if (!printers) {
-        complain(printers.failure());
-        return exitCodeOf(printers.failure().kind);
-    }
-    std::vector<Printer> all = printers.value();
+    // The folder needs no server, so it is listed whatever the server says.
+    std::vector<Printer> all = printers ? printers.value() : std::vector<Printer>();
     all.push_back(Printer::folder());
     for (const Printer &printer : all) {
         const QString title = printer.title() == printer.name
@@ -122,6 +119,10 @@ ExitCode Application::listPrinters()
             : QStringLiteral(" (%1)").arg(printer.title());
         say(printer.name + title + QStringLiteral(": ") + printer.stateText()
             + (printer.isDefault ? tr(", the default") : QString()) + u'\n');
+    }
+    if (!printers) {
+        complain(printers.failure());
+        return exitCodeOf(printers.failure().kind);
     }
     return ExitCode::Done;
 }

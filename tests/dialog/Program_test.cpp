@@ -37,12 +37,14 @@ protected:
     }
     QStringList toFolder(const QStringList &more = {})
     {
-        return QStringList{write(QStringLiteral("label.pdf"), pdfOfPages(2)),
+        return QStringList{write(QStringLiteral("label.pdf"), document),
                            QStringLiteral("--no-dialog"), QStringLiteral("--output"), out()}
         + more;
     }
     QString out() const { return folder.filePath(QStringLiteral("out")); }
 
+    /// Made once: a PDF holds the time at which it was made.
+    const QByteArray document = pdfOfPages(2);
     std::string said;
     std::string complained;
 };
@@ -64,7 +66,7 @@ TEST_F(Program, PrintsWithoutADialogAndTheSettingsCanBeReadBack)
     EXPECT_EQ(settings.value().copies(), 2);
     QFile printed(out() + QStringLiteral("/job-0001/label.pdf"));
     ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
-    EXPECT_EQ(printed.readAll(), pdfOfPages(2));
+    EXPECT_EQ(printed.readAll(), document);
 }
 
 TEST_F(Program, SavesAPictureOfTheDialogWithoutADisplay)
@@ -97,12 +99,19 @@ TEST_F(Program, ListsTheQueuesAndTheFolder)
     EXPECT_THAT(said, HasSubstr("folder"));
 }
 
+TEST_F(Program, ListsTheFolderAlsoWhenTheServerIsNotThere)
+{
+    EXPECT_EQ(run({QStringLiteral("--list-printers")}), 5);
+    EXPECT_THAT(said, StartsWith("folder"));
+    EXPECT_THAT(complained, HasSubstr("/nonexistent"));
+}
+
 TEST_F(Program, PrintsToAQueue)
 {
     CupsServerFixture cups;
     cups.addQueue(QStringLiteral("Lab"));
-    const QString document = write(QStringLiteral("label.pdf"), pdfOfPages(1));
-    EXPECT_EQ(run({document, QStringLiteral("--no-dialog"), QStringLiteral("--printer"),
+    const QString path = write(QStringLiteral("label.pdf"), document);
+    EXPECT_EQ(run({path, QStringLiteral("--no-dialog"), QStringLiteral("--printer"),
                    QStringLiteral("Lab"), QStringLiteral("-o"), QStringLiteral("CvRedLevel=-7")},
                   cups.address()),
               0)
