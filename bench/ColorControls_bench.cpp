@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The colour-controls filter next to a plain copy of the same bytes. The column `copies` tells how
 // many copies could be made in the time, measured in the same run.
-#include "preview/ColorControls.h"
+#include "imaging/ColorControls.h"
 
 #include <benchmark/benchmark.h>
 
@@ -36,12 +36,12 @@ public:
         }
     }
 
-    preview::PixelRows<const std::uint8_t> from() const
+    imaging::PixelRows<const std::uint8_t> from() const
     {
         return {mFrom.data(), mSide, mSide, mSide * 4};
     }
 
-    preview::PixelRows<std::uint8_t> to() { return {mTo.data(), mSide, mSide, mSide * 4}; }
+    imaging::PixelRows<std::uint8_t> to() { return {mTo.data(), mSide, mSide, mSide * 4}; }
 
     void copy()
     {
@@ -103,7 +103,7 @@ void filterPicture(benchmark::State &state)
 {
     Pictures pictures(state);
     measure(state, pictures, [&pictures] {
-        const preview::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
+        const imaging::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
         filter.apply(pictures.from(), pictures.to());
     });
 }
@@ -111,17 +111,17 @@ void filterPicture(benchmark::State &state)
 void filterInPlace(benchmark::State &state)
 {
     Pictures pictures(state);
-    const preview::PixelRows<std::uint8_t> to = pictures.to();
+    const imaging::PixelRows<std::uint8_t> to = pictures.to();
     measure(state, pictures, [to] {
-        const preview::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
+        const imaging::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
         filter.apply({to.bytes, to.width, to.height, to.bytesPerRow}, to);
     });
 }
 
-void filterByPath(benchmark::State &state, preview::ColorPath path)
+void filterByPath(benchmark::State &state, imaging::ColorPath path)
 {
     Pictures pictures(state);
-    const preview::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
+    const imaging::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
     measure(state, pictures, [&] { filter.apply(pictures.from(), pictures.to(), path); });
 }
 
@@ -156,7 +156,7 @@ int main(int argc, char **argv)
     add("filter", filterPicture);
     add("filter in place", filterInPlace);
     constexpr const char *kPathNames[] = {"filter, plain", "filter, SSE2", "filter, AVX2"};
-    for (const preview::ColorPath path : preview::colorPaths()) {
+    for (const imaging::ColorPath path : imaging::colorPaths()) {
         add(kPathNames[int(path)], filterByPath, path);
     }
 #ifdef HAVE_OPENCV

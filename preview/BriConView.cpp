@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "preview/BriConView.h"
 
+#include "imaging/ColorControls.h"
 #include "platform/Controls.h"
-#include "preview/ColorControls.h"
 #include "preview/SamplePicture.h"
 
 #include <QPainter>
@@ -150,7 +150,7 @@ QImage BriConView13_v300_::filteredSample() const
 {
     CIImage image = CIImageWithNSImage2(mBriConImg);
     // Two passes, brightness first: contrast works on the already brightened picture.
-    const preview::ColorControls filter({inputBriValue(), 1.0F}, {0.0F, inputCntstValue()});
+    const imaging::ColorControls filter({inputBriValue(), 1.0F}, {0.0F, inputCntstValue()});
     const auto width = std::size_t(image.width);
     const auto height = std::size_t(image.height);
     const auto bytesPerRow = std::size_t(image.bytesPerRow);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "preview/ColorControlsRows.h"
+#include "imaging/ColorControlsRows.h"
 
 #if defined(__x86_64__)
 
@@ -8,7 +8,7 @@
 // Kept apart from the rest because only these functions may use the wide registers.
 #define WITH_AVX2 __attribute__((target("avx2")))
 
-namespace preview {
+namespace imaging {
 namespace {
 
 constexpr int kAlphaBits = int(0xFF000000U);
@@ -95,6 +95,6 @@ WITH_AVX2 std::size_t filterRowAvx2(const FixedPointMap &map, const std::uint8_t
     return bytes / 4;
 }
 
-} // namespace preview
+} // namespace imaging
 
 #endif

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "preview/ColorControls.h"
+#include "imaging/ColorControls.h"
 
-#include "preview/ColorControlsRows.h"
+#include "imaging/ColorControlsRows.h"
 
 #include <cmath>
 
-namespace preview {
+namespace imaging {
 namespace {
 
 constexpr double kMiddle = 127.5;
@@ -102,4 +102,4 @@ void ColorControls::apply(PixelRows<const std::uint8_t> from, PixelRows<std::uin
     }
 }
 
-} // namespace preview
+} // namespace imaging

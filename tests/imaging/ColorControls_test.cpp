@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "preview/ColorControls.h"
+#include "imaging/ColorControls.h"
 
 #include <gmock/gmock.h>
 
@@ -9,9 +9,9 @@
 #include <random>
 #include <string>
 
-using namespace preview;
+using namespace imaging;
 
-namespace preview {
+namespace imaging {
 
 void PrintTo(ColorPath path, std::ostream *out)
 {
@@ -19,7 +19,7 @@ void PrintTo(ColorPath path, std::ostream *out)
     *out << kNames[int(path)];
 }
 
-} // namespace preview
+} // namespace imaging
 
 namespace {
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "preview/FixedPointMap.h"
+#include "imaging/FixedPointMap.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
-namespace preview {
+namespace imaging {
 
 /// One pass of the colour-controls filter: brightness is added, contrast spreads the tones around
 /// the middle. Tones run from 0 to 1; saturation stays as it is. The defaults change nothing.
@@ -66,4 +66,4 @@ private:
     std::optional<FixedPointMap> mFixedPoint;
 };
 
-} // namespace preview
+} // namespace imaging

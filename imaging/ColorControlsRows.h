@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "preview/FixedPointMap.h"
+#include "imaging/FixedPointMap.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +9,7 @@
 // The inner loops of the colour-controls filter. Each filters as many whole pixels from the front
 // of a row as it can and returns how many; the caller does the rest with the table.
 
-namespace preview {
+namespace imaging {
 
 using RowFilter = std::size_t (*)(const FixedPointMap &map, const std::uint8_t *from,
                                   std::uint8_t *to, std::size_t pixels);
@@ -23,4 +23,4 @@ std::size_t filterRowAvx2(const FixedPointMap &map, const std::uint8_t *from, st
                           std::size_t pixels);
 #endif
 
-} // namespace preview
+} // namespace imaging

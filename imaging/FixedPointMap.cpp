@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "preview/FixedPointMap.h"
+#include "imaging/FixedPointMap.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace preview {
+namespace imaging {
 namespace {
 
 constexpr int kLargest = 65535;
@@ -95,4 +95,4 @@ std::optional<FixedPointMap> fixedPointFor(const ToneTable &table, double slope)
     return {};
 }
 
-} // namespace preview
+} // namespace imaging

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace preview {
+namespace imaging {
 
 using ToneTable = std::array<std::uint8_t, 256>;
 
@@ -26,4 +26,4 @@ struct FixedPointMap
 /// `slope` is the steepness of the straight line that the table was made from.
 std::optional<FixedPointMap> fixedPointFor(const ToneTable &table, double slope);
 
-} // namespace preview
+} // namespace imaging
