@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the Graphics panel does with an option of many choices, next to opening the same PPD. The
-// column `opens` tells how often the file could be opened in the time, measured in the same run;
-// `per_choice` is the time divided by the number of choices: it must not grow from row to row.
+// What the Graphics panel does with an option of many choices, and among many options of others,
+// next to opening the same PPD. Rows are named by choices/other options. The column `opens` tells
+// how often the file could be opened in the time, measured in the same run; `each` is the time
+// divided by the number that grows: it must not grow from row to row.
 #include "graphics_panel/GraphicsPDE.h"
 #include "platform/Bundle.h"
 
@@ -19,10 +20,23 @@ namespace {
 
 constexpr int kHighestLevel = 20;
 
-/// The six options of the panel: "CvBrightness" with `choices` levels, the others with two choices.
-QByteArray ppdText(int choices)
+/// Options that no panel binds, of two choices each, half of them before the panel's in the
+/// alphabet and half behind.
+QByteArray otherOptions(int others)
 {
-    QByteArray text = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n";
+    QByteArray text;
+    for (int i = 0; i < others; ++i) {
+        const QByteArray option = (i % 2 ? "Ax" : "Zx") + QByteArray::number(i);
+        text += "*OpenUI *" + option + ": PickOne\n*Default" + option + ": On\n*" + option
+            + " On: \"\"\n*" + option + " Off: \"\"\n*CloseUI: *" + option + "\n";
+    }
+    return text;
+}
+
+/// The six options of the panel: "CvBrightness" with `choices` levels, the others with two choices.
+QByteArray ppdText(int choices, int others)
+{
+    QByteArray text = "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n" + otherOptions(others);
     for (const char *keyword : {"CvHalftonePattern", "CvBrightness", "CvContrast", "CvBiDiPrint",
                                 "CvMultiColor", "CvRedLevel"}) {
         const QByteArray option(keyword);
@@ -42,9 +56,9 @@ QByteArray ppdText(int choices)
 class Ppd
 {
 public:
-    explicit Ppd(int choices)
+    Ppd(int choices, int others)
     {
-        const QByteArray text = ppdText(choices);
+        const QByteArray text = ppdText(choices, others);
         if (!mFile.open() || mFile.write(text) != text.size() || !mFile.flush()) {
             throw std::runtime_error("A PPD for the benchmark cannot be written");
         }
@@ -123,7 +137,7 @@ class Panels
 {
 public:
     explicit Panels(const benchmark::State &state)
-        : mPpd(int(state.range(0)))
+        : mPpd(int(state.range(0)), int(state.range(1)))
         , host(std::make_shared<MarkingHost>(mPpd.get()))
     { }
 
@@ -173,9 +187,9 @@ double secondsSince(std::clock_t start)
 }
 
 /// The usual time of one opening: the median of several rounds.
-double secondsOfOpening(const Ppd &ppd, int choices)
+double secondsOfOpening(const Ppd &ppd, int size)
 {
-    const int openings = std::max(1, 10000 / choices);
+    const int openings = std::max(1, 10000 / size);
     std::vector<double> rounds;
     for (int round = 0; round < 15; ++round) {
         const std::clock_t start = std::clock();
@@ -190,8 +204,8 @@ double secondsOfOpening(const Ppd &ppd, int choices)
 
 template <typename Work> void measure(benchmark::State &state, const Ppd &ppd, Work work)
 {
-    const int choices = int(state.range(0));
-    const double openingSeconds = secondsOfOpening(ppd, choices);
+    const int size = int(std::max(state.range(0), state.range(1)));
+    const double openingSeconds = secondsOfOpening(ppd, size);
     const std::clock_t start = std::clock();
     for (auto _ : state) {
         work();
@@ -199,12 +213,12 @@ template <typename Work> void measure(benchmark::State &state, const Ppd &ppd, W
     }
     const double seconds = secondsSince(start) / double(state.iterations());
     state.counters["opens"] = seconds / openingSeconds;
-    state.counters["per_choice"] = seconds / choices;
+    state.counters["each"] = seconds / size;
 }
 
 void openPpd(benchmark::State &state)
 {
-    const Ppd ppd(int(state.range(0)));
+    const Ppd ppd(int(state.range(0)), int(state.range(1)));
     measure(state, ppd, [&ppd] { ppd.openOnceMore(); });
 }
 
@@ -254,8 +268,12 @@ void summary(benchmark::State &state)
 
 void add(const char *name, void (*function)(benchmark::State &))
 {
+    auto *rows = benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMicrosecond);
     for (const int choices : {10, 100, 1000, 5000, 10000}) {
-        benchmark::RegisterBenchmark(name, function)->Arg(choices)->Unit(benchmark::kMicrosecond);
+        rows->Args({choices, 0});
+    }
+    for (const int others : {10, 100, 1000, 10000}) {
+        rows->Args({10, others});
     }
 }
 
