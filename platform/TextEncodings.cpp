@@ -34,6 +34,8 @@ TextEncoding gSystemEncoding = TextEncoding::Utf8;
 const char *converterName(TextEncoding encoding)
 {
     switch (encoding) {
+    case TextEncoding::Ascii:
+        return "US-ASCII";
     case TextEncoding::MacRoman:
         return "macintosh";
     case TextEncoding::ShiftJis:
@@ -119,6 +121,14 @@ std::optional<QByteArray> encode(const QString &text, TextEncoding encoding)
     }
     if (encoding == TextEncoding::Utf16) {
         return encodeUtf16(text);
+    }
+    if (encoding == TextEncoding::Ascii || encoding == TextEncoding::MacRoman) {
+        // Spares what people type most the set-up of a converter.
+        const bool ascii =
+            std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
+        if (ascii || encoding == TextEncoding::Ascii) {
+            return ascii ? std::optional(text.toLatin1()) : std::nullopt;
+        }
     }
     const Converter converter = strictConverter(encoding);
     if (!converter) {

@@ -10,9 +10,11 @@
 
 namespace platform {
 
-/// The encodings that a text can be measured in, in the order in which they are tried.
+/// The encodings that a text can be measured in; all but the first in the order in which they are
+/// tried.
 enum class TextEncoding
 {
+    Ascii,
     MacRoman,
     ShiftJis,
     Big5,

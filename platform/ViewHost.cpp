@@ -84,8 +84,6 @@ public:
         const QWidget *window = QApplication::activeWindow();
         return window ? std::optional<double>(window->frameGeometry().height()) : std::nullopt;
     }
-
-    void beep() override { QApplication::beep(); }
 };
 
 std::unique_ptr<QWidget> Desktop::loadNibNamed(const QString &name, const Bundle &bundle,

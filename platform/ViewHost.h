@@ -15,7 +15,7 @@ namespace platform {
 class Bundle;
 class Outlets;
 
-/// The desktop around the views: their interface descriptions, the key window, the beep.
+/// The desktop around the views: their interface descriptions and the key window.
 class PLATFORM_EXPORT ViewHost
 {
 public:
@@ -36,8 +36,6 @@ public:
     /// The height in points of the window that has the user's keys, title bar included; nothing
     /// when no window of the application has them.
     virtual std::optional<double> keyWindowHeight() const = 0;
-
-    virtual void beep() = 0;
 };
 
 /// Makes a view of a class that an interface description names.

@@ -30,7 +30,6 @@ public:
         return mDesktop.loadNibNamed(name, from, owner);
     }
     std::optional<double> keyWindowHeight() const override { return mHeight; }
-    void beep() override { mDesktop.beep(); }
 
 private:
     std::optional<double> mHeight;

@@ -144,6 +144,18 @@ TEST_F(TextEncodings, ALetterWithItsMarkCountsAsOneCharacter)
     EXPECT_EQ(encodedLength(QStringLiteral("e\u0301"), TextEncoding::Utf8), 3);
 }
 
+TEST_F(TextEncodings, AsciiHoldsUnitsBelow80AndNothingElse)
+{
+    for (int code = 0; code <= 0xFFFF; ++code) {
+        const QString text{QChar(ushort(code))};
+        ASSERT_EQ(encodedLength(text, TextEncoding::Ascii).has_value(), code < 0x80) << code;
+    }
+    EXPECT_EQ(encodedLength(QStringLiteral("ab"), TextEncoding::Ascii), 2);
+    EXPECT_EQ(encodedLength(QString(), TextEncoding::Ascii), 0);
+    EXPECT_EQ(encodedLength(QStringLiteral("e\u0301"), TextEncoding::Ascii), std::nullopt);
+    EXPECT_EQ(encodedLength(QStringLiteral("a\u00AD"), TextEncoding::Ascii), std::nullopt);
+}
+
 TEST_F(TextEncodings, TheFirstFittingEncodingOfTheListIsTaken)
 {
     EXPECT_EQ(lengthInFirstFittingEncoding(QStringLiteral("é")), 1) << "Mac OS Roman";

@@ -84,7 +84,6 @@ public:
         return view;
     }
     std::optional<double> keyWindowHeight() const override { return keyWindow; }
-    void beep() override { }
 
     bool canLoad = true;
     std::vector<std::string> loads;
