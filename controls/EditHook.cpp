@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "controls/EditHook.h"
+
+#include <QSignalBlocker>
+
+namespace controls {
+
+EditHook::EditHook(QLineEdit &field)
+    : mField(field)
+    , mBefore(current())
+    , mSetByProgram(field.text())
+{
+    // The field tells of the text last; an input method moves the caret before that.
+    const auto selected = [this] {
+        if (mField.text() == mBefore.text) {
+            follow();
+        }
+    };
+    connect(&field, &QLineEdit::cursorPositionChanged, this, selected);
+    connect(&field, &QLineEdit::selectionChanged, this, selected);
+    connect(&field, &QLineEdit::textChanged, this, &EditHook::follow);
+}
+
+EditHook::State EditHook::current() const
+{
+    const bool selected = mField.hasSelectedText();
+    const TextRange selection{selected ? mField.selectionStart() : mField.cursorPosition(),
+                              selected ? mField.selectionLength() : 0};
+    return {mField.text(), selection, mField.cursorPosition()};
+}
+
+void EditHook::follow()
+{
+    mBefore = current();
+    if (!mField.isModified()) {
+        mSetByProgram = mBefore.text;
+    }
+}
+
+void EditHook::accept()
+{
+    follow();
+}
+
+void EditHook::restore()
+{
+    const QSignalBlocker silent(mField);
+    mField.setText(mSetByProgram);
+    if (mBefore.text != mSetByProgram) {
+        mField.selectAll();
+        mField.insert(mBefore.text);
+    }
+    const int start = int(mBefore.selection.location);
+    const int length = int(mBefore.selection.length);
+    if (length == 0) {
+        mField.setCursorPosition(start);
+    } else if (mBefore.caret == start) {
+        mField.setSelection(start + length, -length);
+    } else {
+        mField.setSelection(start, length);
+    }
+}
+
+} // namespace controls
