@@ -11,7 +11,8 @@ set(allowed_graphics_panel
   "graphics_panel/" "plugin/" "ppd/" "preview/" "controls/" "platform/")
 set(allowed_controls "controls/" "ppd/" "platform/")
 set(allowed_diagnostics "diagnostics/" "platform/")
-set(allowed_dialog "dialog/" "plugin/PrintDialogExtension[.]h" "platform/" "imaging/")
+set(allowed_loading "loading/" "plugin/PrintDialogExtension[.]h" "platform/")
+set(allowed_dialog "dialog/" "loading/" "plugin/PrintDialogExtension[.]h" "platform/" "imaging/")
 set(allowed_tools
   "tools/" "plugin/PrintDialogExtension[.]h" "plugin/PanelInspection[.]h" "platform/")
 set(allowed_imaging "imaging/")
@@ -24,7 +25,8 @@ set(folders_of_plist/ ppd dialog)
 set(folders_of_unicode/ platform)
 set(folders_of_QUiLoader platform)
 set(folders_of_QPdf dialog)
-set(folders_of_Q platform ppd preview plugin graphics_panel controls diagnostics dialog tools)
+set(folders_of_Q platform ppd preview plugin graphics_panel controls diagnostics loading dialog
+  tools)
 
 set(complaints "")
 
@@ -58,7 +60,7 @@ endfunction()
 
 set(count 0)
 foreach(folder
-    platform ppd preview plugin graphics_panel controls diagnostics dialog tools imaging filter)
+    platform ppd preview plugin graphics_panel controls diagnostics loading dialog tools imaging filter)
   file(GLOB_RECURSE files RELATIVE "${ROOT}" "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file ${files})
     math(EXPR count "${count} + 1")

@@ -2,13 +2,13 @@
 #include "dialog/Application.h"
 
 #include "dialog/BatchPrint.h"
-#include "dialog/BundleFinder.h"
-#include "dialog/BundleLoader.h"
 #include "dialog/DialogRun.h"
 #include "dialog/LibcupsServer.h"
 #include "dialog/Remembered.h"
 #include "dialog/Terminal.h"
 #include "dialog/Translations.h"
+#include "loading/BundleFinder.h"
+#include "loading/BundleLoader.h"
 
 #include <QApplication>
 #include <QDir>
@@ -130,17 +130,24 @@ ExitCode Application::listPrinters()
 void Application::loadPlugIns()
 {
     const QStringList asked = mLine.plugIn.isEmpty() ? QStringList() : QStringList{mLine.plugIn};
-    const BundleFinder::Found found = BundleFinder(asked).find();
-    mComplaints.insert(mComplaints.end(), found.failures.begin(), found.failures.end());
-    const BundleLoader loader;
+    const loading::BundleFinder::Found found = loading::BundleFinder(asked).find();
+    for (const loading::Refusal &refusal : found.failures) {
+        complainLater(refusal);
+    }
+    const loading::BundleLoader loader;
     for (const QString &bundle : found.bundles) {
         auto plugIn = loader.load(bundle);
         if (plugIn) {
-            mPlugIns.push_back(std::make_shared<LoadedPlugIn>(std::move(plugIn).value()));
+            mPlugIns.push_back(std::make_shared<loading::LoadedPlugIn>(std::move(plugIn).value()));
         } else {
-            mComplaints.push_back(plugIn.failure());
+            complainLater(plugIn.failure());
         }
     }
+}
+
+void Application::complainLater(const loading::Refusal &refusal)
+{
+    mComplaints.push_back({FailureKind::Panel, refusal.what, refusal.why});
 }
 
 PrintController::Folder Application::folder() const

@@ -5,6 +5,7 @@
 #include "dialog/CupsServer.h"
 #include "dialog/DocumentPages.h"
 #include "dialog/PrintController.h"
+#include "loading/Refusal.h"
 
 #include <QCoreApplication>
 
@@ -31,6 +32,7 @@ private:
     ExitCode showDialog();
 
     void loadPlugIns();
+    void complainLater(const loading::Refusal &refusal);
     PrintController::Folder folder() const;
     QString wishedPrinter() const;
     JobSettings wishedJob() const;

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QString>
+#include "loading/Result.h"
 
-#include <optional>
-#include <utility>
-#include <variant>
+#include <QString>
 
 namespace dialog {
 
@@ -37,28 +35,6 @@ struct Failure
 };
 
 /// A value, or the failure that stood in its way.
-template <class T> class Result
-{
-public:
-    Result(T value) // NOLINT(google-explicit-constructor): `return value;` is the point
-        : mContent(std::in_place_index<0>, std::move(value))
-    { }
-    Result(Failure failure) // NOLINT(google-explicit-constructor): likewise
-        : mContent(std::in_place_index<1>, std::move(failure))
-    { }
-
-    explicit operator bool() const { return mContent.index() == 0; }
-
-    /// Only with a value.
-    T &value() & { return std::get<0>(mContent); }
-    const T &value() const & { return std::get<0>(mContent); }
-    T &&value() && { return std::get<0>(std::move(mContent)); }
-
-    /// Only without a value.
-    const Failure &failure() const { return std::get<1>(mContent); }
-
-private:
-    std::variant<T, Failure> mContent;
-};
+template <class T> using Result = loading::Result<T, Failure>;
 
 } // namespace dialog

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "dialog/BundleLoader.h"
 #include "dialog/Failure.h"
 #include "dialog/OptionChoice.h"
 #include "dialog/PanelGuard.h"
 #include "dialog/PanelHost.h"
 #include "dialog/PanelMarks.h"
+#include "loading/BundleLoader.h"
 
 #include <QMap>
 #include <QObject>
@@ -18,7 +18,7 @@
 
 namespace dialog {
 
-using PlugIns = std::vector<std::shared_ptr<LoadedPlugIn>>;
+using PlugIns = std::vector<std::shared_ptr<loading::LoadedPlugIn>>;
 
 /// The panels of all plug-ins for one printer, from their start to the end of the dialog.
 ///

@@ -29,7 +29,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleFinder</name>
+    <name>loading::BundleFinder</name>
     <message>
         <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
         <translation>diesen Ordner gibt es nicht; geben Sie mit --plugin den Pfad eines Plug-in-Ordners an</translation>
@@ -44,7 +44,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleLoader</name>
+    <name>loading::BundleLoader</name>
     <message>
         <source>plug-in %1 is left out</source>
         <translation>Plug-in %1 wird ausgelassen</translation>
@@ -87,7 +87,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleMetadata</name>
+    <name>loading::BundleMetadata</name>
     <message>
         <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
         <translation>seine bundle.json ist beschädigt (%1, Byte %2); installieren Sie das Plug-in neu</translation>
@@ -118,7 +118,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleTrust</name>
+    <name>loading::BundleTrust</name>
     <message>
         <source>it holds more than %1 files; install the plug-in again</source>
         <translation>es enthält mehr als %1 Dateien; installieren Sie das Plug-in neu</translation>

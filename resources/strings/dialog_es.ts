@@ -29,7 +29,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleFinder</name>
+    <name>loading::BundleFinder</name>
     <message>
         <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
         <translation>no existe esa carpeta; indique en --plugin la ruta de la carpeta de un complemento</translation>
@@ -44,7 +44,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleLoader</name>
+    <name>loading::BundleLoader</name>
     <message>
         <source>plug-in %1 is left out</source>
         <translation>se omite el complemento %1</translation>
@@ -87,7 +87,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleMetadata</name>
+    <name>loading::BundleMetadata</name>
     <message>
         <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
         <translation>su archivo bundle.json está dañado (%1, byte %2); vuelva a instalar el complemento</translation>
@@ -118,7 +118,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleTrust</name>
+    <name>loading::BundleTrust</name>
     <message>
         <source>it holds more than %1 files; install the plug-in again</source>
         <translation>contiene más de %1 archivos; vuelva a instalar el complemento</translation>

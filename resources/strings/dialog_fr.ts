@@ -29,7 +29,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleFinder</name>
+    <name>loading::BundleFinder</name>
     <message>
         <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
         <translation>ce dossier n’existe pas&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
@@ -44,7 +44,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleLoader</name>
+    <name>loading::BundleLoader</name>
     <message>
         <source>plug-in %1 is left out</source>
         <translation>le module %1 est écarté</translation>
@@ -87,7 +87,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleMetadata</name>
+    <name>loading::BundleMetadata</name>
     <message>
         <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
         <translation>son fichier bundle.json est endommagé (%1, octet %2)&#xa0;; réinstallez le module</translation>
@@ -118,7 +118,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleTrust</name>
+    <name>loading::BundleTrust</name>
     <message>
         <source>it holds more than %1 files; install the plug-in again</source>
         <translation>il contient plus de %1 fichiers&#xa0;; réinstallez le module</translation>

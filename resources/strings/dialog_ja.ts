@@ -29,7 +29,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleFinder</name>
+    <name>loading::BundleFinder</name>
     <message>
         <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
         <translation>そのようなフォルダーはありません。--plugin にはプラグインのフォルダーのパスを指定してください</translation>
@@ -44,7 +44,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleLoader</name>
+    <name>loading::BundleLoader</name>
     <message>
         <source>plug-in %1 is left out</source>
         <translation>プラグイン %1 は使われません</translation>
@@ -87,7 +87,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleMetadata</name>
+    <name>loading::BundleMetadata</name>
     <message>
         <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
         <translation>bundle.json が壊れています (%1、%2 バイト目)。プラグインを再インストールしてください</translation>
@@ -118,7 +118,7 @@
     </message>
 </context>
 <context>
-    <name>dialog::BundleTrust</name>
+    <name>loading::BundleTrust</name>
     <message>
         <source>it holds more than %1 files; install the plug-in again</source>
         <translation>%1 個を超えるファイルが含まれています。プラグインを再インストールしてください</translation>

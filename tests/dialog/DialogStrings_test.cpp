@@ -222,8 +222,9 @@ protected:
         lupdate.start(QStringLiteral(LUPDATE),
                       more
                           + QStringList{QStringLiteral("-I"), QStringLiteral(SOURCE_DIR),
-                                        QStringLiteral(SOURCE_DIR "/dialog"), QStringLiteral("-ts"),
-                                        table});
+                                        QStringLiteral(SOURCE_DIR "/dialog"),
+                                        QStringLiteral(SOURCE_DIR "/loading"),
+                                        QStringLiteral("-ts"), table});
         EXPECT_TRUE(lupdate.waitForFinished(60000)) << lupdate.errorString().toStdString();
         EXPECT_EQ(lupdate.exitCode(), 0) << lupdate.readAllStandardError().toStdString();
         return keysIn(table);
@@ -253,19 +254,22 @@ TEST_F(TextsOfTheSources, HaveTheirPluralFormsInEnglishToo)
 // A context that no class has is never asked for: its texts would stay English for ever.
 TEST_F(TextsOfTheSources, BelongToClassesOfTheDialog)
 {
-    QString headers;
-    for (QDirIterator files(QStringLiteral(SOURCE_DIR "/dialog"), {QStringLiteral("*.h")});
-         files.hasNext();) {
-        QFile file(files.next());
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        headers += QString::fromUtf8(file.readAll());
+    QMap<QString, QString> headers;
+    for (const char *folderName : {"dialog", "loading"}) {
+        const QString name = QLatin1String(folderName);
+        for (QDirIterator files(QStringLiteral(SOURCE_DIR "/") + name, {QStringLiteral("*.h")});
+             files.hasNext();) {
+            QFile file(files.next());
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            headers[name] += QString::fromUtf8(file.readAll());
+        }
     }
     for (const QString &key : collect()) {
         const QString name = key.section(u'|', 0, 0);
-        EXPECT_TRUE(name.startsWith(QLatin1String("dialog::"))) << name.toStdString();
         const QRegularExpression owner(
             QStringLiteral("(class|struct) %1\\b").arg(name.section(QLatin1String("::"), 1)));
-        EXPECT_TRUE(headers.contains(owner)) << name.toStdString();
+        EXPECT_TRUE(headers.value(name.section(QLatin1String("::"), 0, 0)).contains(owner))
+            << name.toStdString();
     }
 }
 

@@ -58,9 +58,9 @@ protected:
                                     QStringLiteral(DIALOG_STRINGS_DIR)));
         QCoreApplication::installTranslator(&translator);
         auto cups = std::make_shared<LibcupsServer>(QStringLiteral("/nonexistent/cups.sock"));
-        auto panel = BundleLoader().load(bundleIn(language));
+        auto panel = loading::BundleLoader().load(bundleIn(language));
         EXPECT_TRUE(panel);
-        PlugIns plugIns{std::make_shared<LoadedPlugIn>(std::move(panel).value())};
+        PlugIns plugIns{std::make_shared<loading::LoadedPlugIn>(std::move(panel).value())};
         const PrintController::Folder printTo{kSamplePpd, folder.filePath(QStringLiteral("out"))};
         controller =
             std::make_unique<PrintController>(cups, plugIns, printTo, PanelSet::Views::Made);

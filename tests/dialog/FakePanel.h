@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "dialog/BundleLoader.h"
+#include "loading/BundleLoader.h"
 #include "plugin/PrintDialogExtension.h"
 
 #include <QLabel>
@@ -147,13 +147,13 @@ public:
     }
 
     /// `name`.plugin, as if it had been loaded.
-    static std::shared_ptr<dialog::LoadedPlugIn>
+    static std::shared_ptr<loading::LoadedPlugIn>
     loaded(const QString &name, std::vector<FakeBehaviour> behaviours, const Calls &calls)
     {
         auto bundle =
             std::make_unique<platform::Bundle>(QStringLiteral("/none/%1.plugin").arg(name));
-        return std::make_shared<dialog::LoadedPlugIn>(
-            std::move(bundle), new FakePlugIn(name, std::move(behaviours), calls));
+        return std::make_shared<loading::LoadedPlugIn>(
+            std::move(bundle), std::make_unique<FakePlugIn>(name, std::move(behaviours), calls));
     }
 
 private:

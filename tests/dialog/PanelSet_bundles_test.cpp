@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PanelSet.h"
 
-#include "dialog/TestBundles.h"
 #include "dialog/TestJob.h"
 #include "platform/NotificationCenter.h"
+#include "support/TestBundles.h"
 
 #include <QComboBox>
 #include <QTest>
@@ -11,11 +11,11 @@
 
 #include <gmock/gmock.h>
 
-using dialog::BundleLoader;
 using dialog::HostedJob;
 using dialog::OptionChoice;
 using dialog::PanelSet;
 using dialog::PlugIns;
+using loading::BundleLoader;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -36,7 +36,7 @@ protected:
         for (const QString &name : names) {
             auto loaded = BundleLoader().load(bundles.copy(name));
             ASSERT_TRUE(loaded) << loaded.failure().text().toStdString();
-            plugIns.push_back(std::make_shared<dialog::LoadedPlugIn>(std::move(loaded).value()));
+            plugIns.push_back(std::make_shared<loading::LoadedPlugIn>(std::move(loaded).value()));
         }
         set = std::make_unique<PanelSet>(std::move(plugIns), job);
         set->start(views);

@@ -7,10 +7,10 @@
 
 #include <gmock/gmock.h>
 
-using dialog::BundleLoader;
 using dialog::HostedJob;
 using dialog::OptionChoices;
 using dialog::PanelSet;
+using loading::BundleLoader;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -29,7 +29,7 @@ protected:
         auto loaded = BundleLoader().load(QStringLiteral(BUNDLE_DIR));
         ASSERT_TRUE(loaded) << loaded.failure().text().toStdString();
         set = std::make_unique<PanelSet>(
-            dialog::PlugIns{std::make_shared<dialog::LoadedPlugIn>(std::move(loaded).value())},
+            dialog::PlugIns{std::make_shared<loading::LoadedPlugIn>(std::move(loaded).value())},
             job);
         set->start(views);
         ASSERT_THAT(set->failures(), IsEmpty());

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleTrust.h"
+#include "loading/BundleTrust.h"
 
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
-namespace dialog {
+namespace loading {
 namespace {
 
 /// More than any plug-in needs, few enough to be looked at in no time.
@@ -92,4 +92,4 @@ std::optional<QString> BundleTrust::complaintAboutLink(const QString &folder,
         .arg(nameIn(folder, file));
 }
 
-} // namespace dialog
+} // namespace loading

@@ -9,12 +9,12 @@
 
 class QJsonObject;
 
-namespace dialog {
+namespace loading {
 
 /// What a bundle's bundle.json says, once it has been found to be right.
 class BundleMetadata
 {
-    Q_DECLARE_TR_FUNCTIONS(dialog::BundleMetadata)
+    Q_DECLARE_TR_FUNCTIONS(loading::BundleMetadata)
 
 public:
     /// The metadata in `json`, or why the bundle cannot be used and what to do, for the user:
@@ -35,4 +35,4 @@ private:
     QString mExecutable;
 };
 
-} // namespace dialog
+} // namespace loading

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "dialog/Failure.h"
+#include "loading/Refusal.h"
 
 #include <QCoreApplication>
 #include <QStringList>
 
 #include <vector>
 
-namespace dialog {
+namespace loading {
 
 /// Finds plug-in bundles on disk. Looks at names only; BundleLoader judges what is inside.
 ///
@@ -16,7 +16,7 @@ namespace dialog {
 /// can put a bundle before the system's, and the command line before both.
 class BundleFinder
 {
-    Q_DECLARE_TR_FUNCTIONS(dialog::BundleFinder)
+    Q_DECLARE_TR_FUNCTIONS(loading::BundleFinder)
 
 public:
     struct Found
@@ -25,7 +25,7 @@ public:
         /// then by name.
         QStringList bundles;
         /// One for each asked-for path that leads to no bundle.
-        std::vector<Failure> failures;
+        std::vector<Refusal> failures;
     };
 
     /// `asked` are the paths that the user gave, each a bundle or a folder of bundles. `standard`
@@ -45,4 +45,4 @@ private:
     QStringList mStandard;
 };
 
-} // namespace dialog
+} // namespace loading

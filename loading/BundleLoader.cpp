@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleLoader.h"
+#include "loading/BundleLoader.h"
 
-#include "dialog/BundleTrust.h"
+#include "loading/BundleTrust.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,21 +12,48 @@
 
 #include <unistd.h>
 
-namespace dialog {
+namespace loading {
 namespace {
 
 constexpr qint64 kLargestMetadata = 65536;
 
+QString nameOf(const QString &folder)
+{
+    return QFileInfo(QDir::cleanPath(folder)).completeBaseName();
+}
+
 } // namespace
 
-LoadedPlugIn::LoadedPlugIn(std::unique_ptr<platform::Bundle> bundle, PDEPlugIn *plugIn)
+BundleCode::BundleCode(const QString &path, const QString &library, PDEInitWithBundle init)
+    : mPath(path)
+    , mLibrary(library)
+    , mInit(init)
+{ }
+
+QString BundleCode::name() const
+{
+    return nameOf(mPath);
+}
+
+std::unique_ptr<PDEPlugIn> BundleCode::makePlugIn(platform::Bundle *bundle) const
+{
+    return std::unique_ptr<PDEPlugIn>(mInit(bundle));
+}
+
+QFunctionPointer BundleCode::function(const char *name) const
+{
+    return QLibrary::resolve(mLibrary, name);
+}
+
+LoadedPlugIn::LoadedPlugIn(std::unique_ptr<platform::Bundle> bundle,
+                           std::unique_ptr<PDEPlugIn> plugIn)
     : mBundle(std::move(bundle))
-    , mPlugIn(plugIn)
+    , mPlugIn(std::move(plugIn))
 { }
 
 QString LoadedPlugIn::name() const
 {
-    return QFileInfo(mBundle->path()).completeBaseName();
+    return nameOf(mBundle->path());
 }
 
 BundleLoader::BundleLoader()
@@ -37,22 +64,36 @@ BundleLoader::BundleLoader(uid_t user)
     : mUser(user)
 { }
 
-Result<LoadedPlugIn> BundleLoader::load(const QString &folder) const
+Refusal BundleLoader::refusal(const QString &folder, const QString &complaint)
 {
-    const QString name = QFileInfo(QDir::cleanPath(folder)).completeBaseName();
-    const auto refuse = [&name](const QString &complaint) {
-        return Failure{FailureKind::Panel, tr("plug-in %1 is left out").arg(name), complaint};
-    };
+    return {tr("plug-in %1 is left out").arg(nameOf(folder)), complaint};
+}
+
+Result<LoadedPlugIn, Refusal> BundleLoader::load(const QString &folder) const
+{
+    const Result<BundleCode, Refusal> code = loadCode(folder);
+    if (!code) {
+        return code.failure();
+    }
+    Started started = start(code.value());
+    if (const auto *complaint = std::get_if<QString>(&started)) {
+        return refusal(folder, *complaint);
+    }
+    return std::get<LoadedPlugIn>(std::move(started));
+}
+
+Result<BundleCode, Refusal> BundleLoader::loadCode(const QString &folder) const
+{
     const QString path = QFileInfo(folder).canonicalFilePath();
     const Judged judged = judge(path);
     if (const auto *complaint = std::get_if<QString>(&judged)) {
-        return refuse(*complaint);
+        return refusal(folder, *complaint);
     }
-    Started started = loadCode(path, std::get<BundleMetadata>(judged));
-    if (const auto *complaint = std::get_if<QString>(&started)) {
-        return refuse(*complaint);
+    Code code = loadLibrary(path, std::get<BundleMetadata>(judged));
+    if (const auto *complaint = std::get_if<QString>(&code)) {
+        return refusal(folder, *complaint);
     }
-    return std::get<LoadedPlugIn>(std::move(started));
+    return std::get<BundleCode>(std::move(code));
 }
 
 BundleLoader::Judged BundleLoader::judge(const QString &folder) const
@@ -87,7 +128,7 @@ BundleLoader::Judged BundleLoader::readMetadata(const QString &folder)
     return BundleMetadata::fromJson(file.read(kLargestMetadata));
 }
 
-BundleLoader::Started BundleLoader::loadCode(const QString &folder, const BundleMetadata &metadata)
+BundleLoader::Code BundleLoader::loadLibrary(const QString &folder, const BundleMetadata &metadata)
 {
     QLibrary library(folder + QLatin1Char('/') + metadata.executable());
     // Every symbol now rather than a crash in the middle of a job. Never unloaded, because objects
@@ -104,16 +145,16 @@ BundleLoader::Started BundleLoader::loadCode(const QString &folder, const Bundle
         return tr("its program file lacks the function %1; ask its maker for another one")
             .arg(QLatin1String(symbol));
     }
-    return start(folder, init);
+    return BundleCode(folder, library.fileName(), init);
 }
 
-BundleLoader::Started BundleLoader::start(const QString &folder, PDEInitWithBundle init)
+BundleLoader::Started BundleLoader::start(const BundleCode &code)
 {
-    auto bundle = std::make_unique<platform::Bundle>(folder);
+    auto bundle = std::make_unique<platform::Bundle>(code.path());
     QString cause;
     try {
-        if (PDEPlugIn *plugIn = init(bundle.get())) {
-            return LoadedPlugIn(std::move(bundle), plugIn);
+        if (auto plugIn = code.makePlugIn(bundle.get())) {
+            return LoadedPlugIn(std::move(bundle), std::move(plugIn));
         }
         return tr("it declines to work here; ask its maker which systems it is for");
     } catch (const std::exception &error) {
@@ -124,4 +165,4 @@ BundleLoader::Started BundleLoader::start(const QString &folder, PDEInitWithBund
     return tr("it failed to start (%1); install the plug-in again or remove it").arg(cause);
 }
 
-} // namespace dialog
+} // namespace loading

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleFinder.h"
+#include "loading/BundleFinder.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,7 +8,7 @@
 
 #include <gmock/gmock.h>
 
-using dialog::BundleFinder;
+using loading::BundleFinder;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
-namespace dialog {
+namespace loading {
 
 /// Judges who can change the files of a bundle: nobody may but root and the user who runs the
 /// dialog, or a stranger's code would run in the user's name.
@@ -18,7 +18,7 @@ namespace dialog {
 /// same for root.
 class BundleTrust
 {
-    Q_DECLARE_TR_FUNCTIONS(dialog::BundleTrust)
+    Q_DECLARE_TR_FUNCTIONS(loading::BundleTrust)
 
 public:
     explicit BundleTrust(uid_t user);
@@ -39,4 +39,4 @@ private:
     uid_t mUser;
 };
 
-} // namespace dialog
+} // namespace loading

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleFinder.h"
+#include "loading/BundleFinder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace dialog {
+namespace loading {
 namespace {
 
 const QLatin1String kBundleSuffix(".plugin");
@@ -75,7 +75,7 @@ BundleFinder::Found BundleFinder::find() const
     for (const QString &path : mAsked) {
         const QStringList bundles = path.isEmpty() ? QStringList() : bundlesAt(path);
         if (bundles.isEmpty()) {
-            found.failures.push_back({FailureKind::Panel, path, whyNothingIsAt(path)});
+            found.failures.push_back({path, whyNothingIsAt(path)});
         }
         appendNew(&found.bundles, bundles);
     }
@@ -98,4 +98,4 @@ QString BundleFinder::whyNothingIsAt(const QString &path)
               ".plugin, or one that holds such folders");
 }
 
-} // namespace dialog
+} // namespace loading

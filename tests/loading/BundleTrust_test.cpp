@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleTrust.h"
+#include "loading/BundleTrust.h"
 
-#include "dialog/TestBundles.h"
+#include "support/TestBundles.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,7 +11,7 @@
 
 #include <unistd.h>
 
-using dialog::BundleTrust;
+using loading::BundleTrust;
 using testing::HasSubstr;
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleMetadata.h"
+#include "loading/BundleMetadata.h"
 
 #include "plugin/PrintDialogExtension.h"
 
@@ -8,7 +8,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-namespace dialog {
+namespace loading {
 namespace {
 
 const QLatin1String kInterfaceVersion("interfaceVersion");
@@ -79,4 +79,4 @@ QString BundleMetadata::complaintAbout(const QJsonObject &object)
     return {};
 }
 
-} // namespace dialog
+} // namespace loading

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/BundleMetadata.h"
+#include "loading/BundleMetadata.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -7,7 +7,7 @@
 
 #include <gmock/gmock.h>
 
-using dialog::BundleMetadata;
+using loading::BundleMetadata;
 using testing::HasSubstr;
 
 namespace {

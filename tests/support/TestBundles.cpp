@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "dialog/TestBundles.h"
+#include "support/TestBundles.h"
 
 #include <QDir>
 #include <QFile>
