@@ -3,6 +3,7 @@
 
 #include "platform/RadioMatrix.h"
 #include "plugin/BasePDE.h"
+#include "plugin/PanelInspection.h"
 #include "ppd/PDEChoice.h"
 #include "preview/BriConView.h"
 #include "preview/HalftoneView.h"
@@ -15,7 +16,10 @@
 #include <QSlider>
 
 #include <array>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 /// The Graphics panel: how pictures are prepared for a label printer.
 ///
@@ -30,7 +34,7 @@
 /// the view and its controls. Host and PPD outlive the panel. A control that the interface
 /// description lacks reads as zero and takes writes silently; an option that the PPD lacks is left
 /// out. The dialog's interface thread only.
-class GraphicsPDE13_v300_ : public BasePDE13_v300_
+class GraphicsPDE13_v300_ : public BasePDE13_v300_, public PanelInspection
 {
 public:
     GraphicsPDE13_v300_();
@@ -101,6 +105,19 @@ protected:
 
 private:
     friend class GraphicsPDETestAccess;
+
+    // Only through PanelInspection.
+    std::vector<PanelInspection::BoundOption> boundOptions() const override;
+    Fields fields() const override;
+    std::optional<QString> fileVersion() override;
+    bool isVL() override;
+    std::vector<Outlet> outlets() override;
+    bool dropOutlet(const QString &name) override;
+    std::vector<Preview> previews() const override;
+    void watchPreviews(const std::function<void(const QString &name)> &told) override;
+    bool run(const QString &name) override;
+    void readMarked(qint32 bits) override;
+    void show(qint32 bits) override;
 
     /// One of the six options, its fields, and how its selection is shown.
     struct BoundOption

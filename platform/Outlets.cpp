@@ -41,9 +41,9 @@ void connectPopUp(QComboBox *popUp, QObject *receiver, const std::function<void(
 Outlets::Outlets() = default;
 Outlets::~Outlets() = default;
 
-void Outlets::addField(const QString &name, SetField setField)
+void Outlets::addField(const QString &name, Field field)
 {
-    mFields.emplace(name, std::move(setField));
+    mFields.emplace(name, std::move(field));
 }
 
 void Outlets::action(const char *name, std::function<void()> send)
@@ -57,7 +57,7 @@ void Outlets::drop(const QString &name)
     mReceivers.erase(name);
     const auto [first, last] = mFields.equal_range(name);
     for (auto field = first; field != last; ++field) {
-        field->second(nullptr);
+        field->second.set(nullptr);
     }
 }
 
@@ -68,11 +68,20 @@ void Outlets::clear()
     mActions.clear();
 }
 
+std::multimap<QString, QWidget *> Outlets::fields() const
+{
+    std::multimap<QString, QWidget *> fields;
+    for (const auto &[name, field] : mFields) {
+        fields.emplace(name, field.get());
+    }
+    return fields;
+}
+
 void Outlets::connectTo(QWidget *view)
 {
     mReceivers.clear();
-    for (const auto &[name, setField] : mFields) {
-        setField(mDropped.contains(name) ? nullptr : controlNamed(name, view));
+    for (const auto &[name, field] : mFields) {
+        field.set(mDropped.contains(name) ? nullptr : controlNamed(name, view));
     }
     for (const auto &[name, send] : mActions) {
         if (!mDropped.contains(name)) {

@@ -34,7 +34,8 @@ public:
     template <class Control> void add(const char *name, QPointer<Control> &field)
     {
         addField(QLatin1String(name),
-                 [&field](QWidget *view) { field = qobject_cast<Control *>(view); });
+                 {[&field](QWidget *view) { field = qobject_cast<Control *>(view); },
+                  [&field]() -> QWidget * { return field; }});
     }
 
     /// Calls `send` once for every change that the user or an assistive tool makes to the control
@@ -51,16 +52,23 @@ public:
     /// what they hold.
     void clear();
 
+    /// What each field holds now, by name.
+    std::multimap<QString, QWidget *> fields() const;
+
     /// Connects all names to the controls in `view`, `view` itself among them. Done by the view
     /// host when it has loaded a description.
     void connectTo(QWidget *view);
 
 private:
-    using SetField = std::function<void(QWidget *)>;
-    void addField(const QString &name, SetField setField);
+    struct Field
+    {
+        std::function<void(QWidget *)> set;
+        std::function<QWidget *()> get;
+    };
+    void addField(const QString &name, Field field);
     void connectAction(const QString &name, QWidget *control, const std::function<void()> &send);
 
-    std::multimap<QString, SetField> mFields;
+    std::multimap<QString, Field> mFields;
     std::multimap<QString, std::function<void()>> mActions;
     /// What the signals of a name's control are connected to; without it they go nowhere.
     std::multimap<QString, std::unique_ptr<QObject>> mReceivers;

@@ -79,6 +79,16 @@ protected:
     Outlets outlets;
 };
 
+TEST_F(OutletsTest, TellsWhatEachFieldHoldsAlsoWhenItIsDropped)
+{
+    outlets.drop(QStringLiteral("box"));
+    const std::multimap<QString, QWidget *> fields = outlets.fields();
+    EXPECT_EQ(fields.size(), 5U);
+    EXPECT_EQ(fields.find(QStringLiteral("slider"))->second, slider);
+    EXPECT_EQ(fields.find(QStringLiteral("popUp"))->second, popUp);
+    EXPECT_EQ(fields.find(QStringLiteral("box"))->second, nullptr);
+}
+
 TEST_F(OutletsTest, FieldsGetTheControlsOfTheirName)
 {
     EXPECT_EQ(slider, view->findChild<QSlider *>());
