@@ -13,14 +13,16 @@ set(allowed_controls "controls/" "ppd/" "platform/")
 set(allowed_diagnostics "diagnostics/" "platform/")
 set(allowed_loading "loading/" "plugin/PrintDialogExtension[.]h" "platform/")
 set(allowed_dialog "dialog/" "loading/" "plugin/PrintDialogExtension[.]h" "platform/" "imaging/")
+# The two headers of ppd/ declare functions that the bundle exports.
 set(allowed_tools
-  "tools/" "plugin/PrintDialogExtension[.]h" "plugin/PanelInspection[.]h" "platform/")
+  "tools/" "loading/" "plugin/PrintDialogExtension[.]h" "plugin/PanelInspection[.]h" "platform/"
+  "ppd/ExtendedTicket[.]h" "ppd/TapeInfo[.]h")
 set(allowed_imaging "imaging/")
 set(allowed_filter "filter/" "imaging/")
 
 # Libraries that stay in their folders.
 set(libraries "cups/" "plist/" "unicode/" "QUiLoader" "QPdf" "Q")
-set(folders_of_cups/ plugin ppd graphics_panel diagnostics dialog filter)
+set(folders_of_cups/ plugin ppd graphics_panel diagnostics dialog tools filter)
 set(folders_of_plist/ ppd dialog)
 set(folders_of_unicode/ platform)
 set(folders_of_QUiLoader platform)
