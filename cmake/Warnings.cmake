@@ -4,7 +4,8 @@ target_include_directories(project_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_definitions(project_options INTERFACE
   QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 target_compile_options(project_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual> -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # False alarms of g++ 12 on std::optional, QString and std::string in optimised code.
   target_compile_options(project_options INTERFACE -Wno-maybe-uninitialized -Wno-restrict)

@@ -83,13 +83,31 @@ TEST(GraphicsBundle, ExportsTheListedNamesAndNoOthers)
     EXPECT_EQ(dynamicSymbols(), listedExports());
 }
 
-TEST(GraphicsBundle, ExportsThePlugInAndTheTapeQueries)
+TEST(GraphicsBundle, ExportsThePlugInTheTapeQueriesAndTheDiagnostics)
 {
     QStringList expected;
-    for (const char *name :
-         {"CVVLGraphics17PlugIn13_v300__initWithBundle", "Get_MenuCount", "Get_MenuKeyStr",
-          "GetTapeInfo", "GetTapeInfo2", "GetTapeInfo3", "GetTicketFromSession", "GetColorSetting",
-          "RoundDouble", "MiriToInch", "InchToMiri", "OP_MENU", "QUAL_MENU"}) {
+    for (const char *name : {"CVVLGraphics17PlugIn13_v300__initWithBundle",
+                             "Get_MenuCount",
+                             "Get_MenuKeyStr",
+                             "GetTapeInfo",
+                             "GetTapeInfo2",
+                             "GetTapeInfo3",
+                             "GetTicketFromSession",
+                             "GetColorSetting",
+                             "RoundDouble",
+                             "MiriToInch",
+                             "InchToMiri",
+                             "OP_MENU",
+                             "QUAL_MENU",
+                             "_PDEProlog",
+                             "_PDEEpilog",
+                             "_PDELog",
+                             "_PDELog_ppd_option_t",
+                             "_PDELog_PMPrintSettings_WriteToFile",
+                             "debugLog",
+                             "debugLogFd",
+                             "memoryCheck",
+                             "memoryCheckFd"}) {
         expected << QLatin1String(name);
     }
     for (const QString &name : dynamicSymbols()) {
