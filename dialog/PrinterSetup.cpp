@@ -78,6 +78,11 @@ std::optional<Failure> PrinterSetup::chooseOne(const OptionChoice &choice)
 void PrinterSetup::start(PanelSet::Views views)
 {
     mPanels.start(views);
+    if (views == PanelSet::Views::Made) {
+        // A panel may print what its controls show, not what was marked: so that is what counts
+        // from the start. Its objections wait for the job.
+        mPanels.prepareJob();
+    }
     takeMarkedSize();
 }
 

@@ -42,7 +42,8 @@ public:
     /// printer has no PPD.
     std::optional<Failure> choose(const OptionChoices &choices);
 
-    /// Makes the panels and brings them to agree with what is chosen.
+    /// Makes the panels and brings them to agree with what is chosen. With views, what a panel
+    /// shows in spite of that is chosen then.
     void start(PanelSet::Views views);
 
     std::optional<Failure> setLabelSize(const LabelSize &size);

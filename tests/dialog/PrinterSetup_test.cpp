@@ -3,6 +3,7 @@
 
 #include "GraphicsBundle.h"
 
+#include <QComboBox>
 #include <QSignalSpy>
 #include <QSlider>
 
@@ -48,6 +49,28 @@ TEST_F(PrinterSetupTest, WhatIsWishedFromTheStartSurvivesTheStartOfThePanels)
     setup->start(PanelSet::Views::Made);
     EXPECT_EQ(setup->ppd()->markedChoice(kBrightness), QStringLiteral("5"));
     EXPECT_EQ(slider(*setup, QStringLiteral("mBrightnessSlider"))->value(), 5);
+}
+
+TEST_F(PrinterSetupTest, WithViewsWhatThePanelShowsIsMarkedFromTheStart)
+{
+    auto setup = make();
+    ASSERT_FALSE(setup->choose({{kColour, kBlackRed}}));
+    setup->start(PanelSet::Views::Made);
+    const auto *shown = setup->panels().panels().at(0)->view()->findChild<QComboBox *>(
+        QStringLiteral("mColorPUBtn"));
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->currentIndex(), 0);
+    EXPECT_EQ(setup->ppd()->markedChoice(kColour), QStringLiteral("CvMultiColorMonochrome"));
+}
+
+TEST_F(PrinterSetupTest, WithoutViewsAWishedColourModeStays)
+{
+    auto setup = make();
+    ASSERT_FALSE(setup->choose({{kColour, kBlackRed}}));
+    setup->start(PanelSet::Views::None);
+    EXPECT_EQ(setup->ppd()->markedChoice(kColour), kBlackRed);
+    ASSERT_FALSE(setup->finish());
+    EXPECT_EQ(setup->settings().choice(kColour), kBlackRed);
 }
 
 TEST_F(PrinterSetupTest, AChoiceThatThePpdDoesNotHaveIsNamed)
