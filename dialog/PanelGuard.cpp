@@ -178,16 +178,22 @@ std::optional<Failure> PanelGuard::restoreOrSave(const char *operation, Restorer
 
 std::optional<QVariantMap> PanelGuard::summary()
 {
+    if (!mHasSummary) {
+        return {};
+    }
+    mHasSummary = false;
     return fenced("summaryInfo", Cost::Fault, std::optional<QVariantMap>(),
                   [this]() -> std::optional<QVariantMap> {
+                      std::optional<QVariantMap> info;
                       try {
-                          return mPanel->summaryInfo();
+                          info = mPanel->summaryInfo();
                       } catch (const std::invalid_argument &error) {
                           // The one failure that the contract allows: no summary, no fault.
                           qCInfo(lcPanels).noquote()
                               << title() << "has no summary:" << error.what();
-                          return {};
                       }
+                      mHasSummary = true;
+                      return info;
                   });
 }
 

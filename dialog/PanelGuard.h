@@ -70,7 +70,8 @@ public:
     std::optional<Failure> restore();
     std::optional<Failure> save();
 
-    /// Nothing when the panel has no summary or cannot make it.
+    /// Nothing when the panel has no summary or cannot make it. It is asked after every change, so
+    /// that one that throws what it may not is one fault and is not asked again.
     std::optional<QVariantMap> summary();
 
     void windowWillClose(bool userCancelled);
@@ -103,6 +104,7 @@ private:
     QPointer<QWidget> mView;
     int mCalls = 0;
     int mFaults = 0;
+    bool mHasSummary = true;
     bool mDropped = false;
 };
 

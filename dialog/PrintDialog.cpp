@@ -7,6 +7,7 @@
 #include "dialog/PagePreview.h"
 #include "dialog/PanelTabs.h"
 #include "dialog/Remembered.h"
+#include "dialog/SummaryView.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -25,6 +26,7 @@ PrintDialog::PrintDialog(PrintController &controller, PrinterList &printers, QWi
     , mController(controller)
     , mPrinters(printers)
     , mPreview(new PagePreview(this))
+    , mSummary(new SummaryView(this))
     , mPrinterBox(new QComboBox(this))
     , mPrinterState(new QLabel(this))
     , mJobBox(new JobBox(this))
@@ -37,9 +39,8 @@ PrintDialog::PrintDialog(PrintController &controller, PrinterList &printers, QWi
     , mOpen(new QPushButton(tr("&Open..."), this))
 {
     setWindowTitle(tr("Print Label"));
-    mPreview->setMinimumWidth(300);
     auto *columns = new QHBoxLayout;
-    columns->addWidget(mPreview, 1);
+    columns->addLayout(makePage(), 1);
     columns->addWidget(makeSettings(), 0);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
@@ -55,7 +56,16 @@ PrintDialog::PrintDialog(PrintController &controller, PrinterList &printers, QWi
 
 PrintDialog::~PrintDialog()
 {
-    mPanels->setSetup(nullptr);
+    letGoOfSetup();
+}
+
+QLayout *PrintDialog::makePage()
+{
+    mPreview->setMinimumWidth(300);
+    auto *column = new QVBoxLayout;
+    column->addWidget(mPreview, 1);
+    column->addWidget(mSummary);
+    return column;
 }
 
 QWidget *PrintDialog::makeSettings()
@@ -121,6 +131,7 @@ void PrintDialog::connectAll()
     connect(mJobBox, &JobBox::edited, this, &PrintDialog::jobEdited);
     connect(mSizeBox, &LabelSizeBox::sizePicked, this, &PrintDialog::sizePicked);
     connect(mPanels, &PanelTabs::choicePicked, this, &PrintDialog::choicePicked);
+    connect(mPanels, &PanelTabs::currentChanged, mSummary, &SummaryView::updateSoon);
     connect(mOpen, &QPushButton::clicked, this, &PrintDialog::openDocument);
     connect(mPrint, &QPushButton::clicked, this, &PrintDialog::print);
     connect(mCancel, &QPushButton::clicked, this, &PrintDialog::reject);

@@ -11,6 +11,7 @@
 
 class QComboBox;
 class QLabel;
+class QLayout;
 class QProgressBar;
 class QPushButton;
 
@@ -21,6 +22,7 @@ class LabelSizeBox;
 class MessageBar;
 class PagePreview;
 class PanelTabs;
+class SummaryView;
 
 /// The window: the document's page on its label, the printer, the job's settings and the panels.
 ///
@@ -58,6 +60,7 @@ public Q_SLOTS:
     void done(int result) override;
 
 private:
+    QLayout *makePage();
     QWidget *makeSettings();
     QWidget *makeFoot();
     void connectAll();
@@ -68,6 +71,7 @@ private:
     void choosePrinter(int row);
     void showSetup();
     void hideSetup();
+    void letGoOfSetup();
     void setupFailed(const Failure &failure);
     void showPrinterState();
 
@@ -95,6 +99,7 @@ private:
     std::optional<Failure> mClash;
 
     PagePreview *mPreview;
+    SummaryView *mSummary;
     QComboBox *mPrinterBox;
     QLabel *mPrinterState;
     JobBox *mJobBox;

@@ -7,6 +7,7 @@
 #include "dialog/PagePreview.h"
 #include "dialog/PanelTabs.h"
 #include "dialog/Remembered.h"
+#include "dialog/SummaryView.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -129,15 +130,23 @@ void PrintDialog::showSetup()
     mSizeBox->setSizes(ppd ? ppd->sizes() : std::vector<LabelSize>(),
                        ppd ? ppd->customSizes() : std::nullopt);
     mPanels->setSetup(&setup);
+    mSummary->setPanels(&setup.panels());
+    connect(&setup.panels(), &PanelSet::failed, mSummary, &SummaryView::updateSoon);
     jobEdited();
     showMarks();
     showPrinterState();
     Q_EMIT settled();
 }
 
-void PrintDialog::hideSetup()
+void PrintDialog::letGoOfSetup()
 {
     mPanels->setSetup(nullptr);
+    mSummary->setPanels(nullptr);
+}
+
+void PrintDialog::hideSetup()
+{
+    letGoOfSetup();
     mSizeBox->setSizes({}, {});
     mClash.reset();
     updatePrintButton();
@@ -207,6 +216,7 @@ void PrintDialog::showMarks()
 {
     PrinterSetup &setup = *mController.setup();
     mPanels->showMarks();
+    mSummary->updateSoon();
     if (const std::optional<LabelSize> &size = setup.settings().labelSize()) {
         mSizeBox->setSize(*size);
     }
@@ -289,7 +299,7 @@ void PrintDialog::done(int result)
         return;
     }
     Remembered().setWindowSize(size());
-    mPanels->setSetup(nullptr);
+    letGoOfSetup();
     mController.close(result != Accepted);
     QDialog::done(result);
 }

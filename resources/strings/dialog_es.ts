@@ -940,6 +940,22 @@
     </message>
 </context>
 <context>
+    <name>dialog::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>Resumen de los ajustes</translation>
+    </message>
+    <message>
+        <source>no summary from this panel</source>
+        <translation>este panel no da ningún resumen</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>title of a setting</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SvgContent</name>
     <message>
         <source>needs another file (%1), which is not read; put it into the drawing</source>

@@ -940,6 +940,22 @@
     </message>
 </context>
 <context>
+    <name>dialog::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>Résumé des réglages</translation>
+    </message>
+    <message>
+        <source>no summary from this panel</source>
+        <translation>pas de résumé de ce panneau</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>title of a setting</comment>
+        <translation>%1&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SvgContent</name>
     <message>
         <source>needs another file (%1), which is not read; put it into the drawing</source>

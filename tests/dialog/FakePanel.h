@@ -26,6 +26,7 @@ struct FakeBehaviour
         onChange = {};
     std::function<void(PDEPluginCallback13_v300_ &)> onSave = {};
     std::function<void(PDEPluginCallback13_v300_ &)> onEnd = {};
+    std::function<std::optional<QVariantMap>()> summary = {};
     bool restores = true;
     bool saves = true;
     bool prints = true;
@@ -106,7 +107,10 @@ public:
         *error = mBehaviour.saves ? QString() : QStringLiteral("no saving");
         return mBehaviour.saves;
     }
-    std::optional<QVariantMap> summaryInfo() override { return {}; }
+    std::optional<QVariantMap> summaryInfo() override
+    {
+        return mBehaviour.summary ? mBehaviour.summary() : std::nullopt;
+    }
 
 private:
     void note(const char *call) { *mCalls << mName + QLatin1Char('.') + QLatin1String(call); }
