@@ -86,4 +86,14 @@ TEST_F(CCaller, WritesThePrintSettings)
     EXPECT_EQ(file.readAll(), "<plist/>\n");
 }
 
+TEST(TraceExample, OfTheGuideWritesWhatItsCommentsSay)
+{
+    QProcess program;
+    program.start(QStringLiteral(TRACE_EXAMPLE), QStringList());
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(program.readAllStandardError().toStdString(), "DEBUG: Colours has 41 choices\n");
+    EXPECT_EQ(program.readAllStandardOutput().toStdString(), "4142\n");
+}
+
 } // namespace
