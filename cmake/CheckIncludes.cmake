@@ -15,8 +15,8 @@ set(allowed_loading "loading/" "plugin/PrintDialogExtension[.]h" "platform/")
 set(allowed_dialog "dialog/" "loading/" "plugin/PrintDialogExtension[.]h" "platform/" "imaging/")
 # The two headers of ppd/ declare functions that the bundle exports.
 set(allowed_tools
-  "tools/" "loading/" "plugin/PrintDialogExtension[.]h" "plugin/PanelInspection[.]h" "platform/"
-  "ppd/ExtendedTicket[.]h" "ppd/TapeInfo[.]h")
+  "tools/" "loading/" "plugin/PrintDialogExtension[.]h" "plugin/PanelInspection[.]h"
+  "plugin/FormatterInspection[.]h" "platform/" "ppd/ExtendedTicket[.]h" "ppd/TapeInfo[.]h")
 set(allowed_imaging "imaging/")
 set(allowed_filter "filter/" "imaging/")
 

@@ -80,6 +80,20 @@ qint32 Members::integer(const char *name) const
     return integerIn(name, required(name), "a whole number of 32 bits");
 }
 
+QVariant Members::textOrInteger(const char *name) const
+{
+    constexpr double kLargest = 9007199254740992.0;
+    const QJsonValue value = required(name);
+    if (value.isString()) {
+        return value.toString();
+    }
+    const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
+    if (!(std::abs(number) <= kLargest) || std::trunc(number) != number) {
+        throw mistyped(name, "a string or a whole number");
+    }
+    return qint64(number);
+}
+
 double Members::number(const char *name) const
 {
     const QJsonValue value = required(name);

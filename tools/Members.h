@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
+#include <QVariant>
 
 #include <optional>
 #include <vector>
@@ -33,6 +34,9 @@ public:
 
     /// A whole number of 32 bits; a truth value is none.
     qint32 integer(const char *name) const;
+
+    /// A string, or a whole number that a double holds exactly.
+    QVariant textOrInteger(const char *name) const;
 
     double number(const char *name) const;
     std::optional<double> numberOrNull(const char *name) const;

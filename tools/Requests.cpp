@@ -8,7 +8,7 @@ namespace tools {
 const Request *findRequest(const QString &name)
 {
     for (const RequestTable *table : {&hostRequests(), &panelRequests(), &controlRequests(),
-                                      &viewRequests(), &stateRequests()}) {
+                                      &viewRequests(), &stateRequests(), &formatterRequests()}) {
         const auto found =
             std::find_if(table->begin(), table->end(),
                          [&name](const Request &request) { return request.name == name; });

@@ -29,6 +29,7 @@ const RequestTable &panelRequests();
 const RequestTable &controlRequests();
 const RequestTable &viewRequests();
 const RequestTable &stateRequests();
+const RequestTable &formatterRequests();
 
 /// The request called `name`, or null.
 const Request *findRequest(const QString &name);

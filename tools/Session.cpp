@@ -85,10 +85,30 @@ QWidget *Session::loadView()
     return mView;
 }
 
+void Session::makeFormatter(const FormatterStart &start)
+{
+    const auto make = reinterpret_cast<MakeFormatter>(mCode.function(kMakeFormatterFunction));
+    if (!make) {
+        throw RequestError(QStringLiteral("the plug-in has no formatters"));
+    }
+    mFormatter.reset(make(start));
+}
+
+FormatterInspection &Session::formatter() const
+{
+    if (!mFormatter) {
+        throw RequestError(QStringLiteral("there is no formatter; send \"formatter.new\" first"));
+    }
+    return *mFormatter;
+}
+
 std::optional<QString> Session::nameOf(const void *object) const
 {
     if (mHost && object == static_cast<const PDEPluginCallback13_v300_ *>(mHost.get())) {
         return QStringLiteral("host");
+    }
+    if (mFormatter && object == mFormatter->address()) {
+        return QStringLiteral("formatter");
     }
     const QList<QLineEdit *> fields =
         mView ? mView->findChildren<QLineEdit *>() : QList<QLineEdit *>();

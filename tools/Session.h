@@ -3,6 +3,7 @@
 
 #include "loading/BundleLoader.h"
 #include "platform/Bundle.h"
+#include "plugin/FormatterInspection.h"
 #include "plugin/PanelInspection.h"
 #include "plugin/PrintDialogExtension.h"
 #include "tools/EventLog.h"
@@ -55,6 +56,12 @@ public:
     /// Null before it is loaded.
     QWidget *view() const { return mView; }
 
+    /// Makes another formatter; it needs no open panel. The present one stays when there is a
+    /// RequestError.
+    void makeFormatter(const FormatterStart &start);
+    /// A RequestError before makeFormatter.
+    FormatterInspection &formatter() const;
+
     EventLog &events() { return mEvents; }
     SessionDesktop &desktop() { return mDesktop; }
     const loading::BundleCode &code() const { return mCode; }
@@ -72,6 +79,7 @@ private:
     std::unique_ptr<PDEPlugIn> mPlugIn;
     std::shared_ptr<const PDEPanelList> mPanels;
     QPointer<QWidget> mView;
+    std::unique_ptr<FormatterInspection> mFormatter;
 };
 
 } // namespace tools
