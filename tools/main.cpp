@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "loading/BundleFinder.h"
 #include "loading/BundleLoader.h"
+#include "plugin/FormatterInspection.h"
 #include "tools/Arguments.h"
 #include "tools/Dispatcher.h"
 
@@ -8,6 +9,7 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
+#include <optional>
 
 #include <unistd.h>
 
@@ -30,18 +32,25 @@ int complain(const QString &why)
     return kUnusable;
 }
 
-/// The first bundle that can be loaded.
+/// The first bundle that can be looked into; the first that can be loaded when there is none.
 loading::Result<BundleCode, Refusal> loadBundle(const QString &asked)
 {
     const auto found = asked.isEmpty() ? loading::BundleFinder({}).find()
                                        : loading::BundleFinder({asked}, {}).find();
+    std::optional<BundleCode> first;
     std::vector<Refusal> refusals = found.failures;
     for (const QString &bundle : found.bundles) {
-        auto code = loading::BundleLoader().loadCode(bundle);
-        if (code) {
+        const auto code = loading::BundleLoader().loadCode(bundle);
+        if (!code) {
+            refusals.push_back(code.failure());
+        } else if (code.value().function(kMakeFormatterFunction)) {
             return code;
+        } else if (!first) {
+            first = code.value();
         }
-        refusals.push_back(code.failure());
+    }
+    if (first) {
+        return *first;
     }
     refusals.push_back({QStringLiteral("plug-in"),
                         QStringLiteral("none is installed; give --plugin the path of one")});

@@ -63,6 +63,16 @@ TEST(PanelSessionProgram, FindsThePlugInAsTheDialogDoesWhenNoneIsNamed)
     EXPECT_THAT(run({}, "{\"do\":\"open\",\"ppd\":null}\n").output, HasSubstr("\"panels\":1"));
 }
 
+TEST(PanelSessionProgram, OfSeveralPlugInsTakesTheOneThatCanBeLookedInto)
+{
+    TestBundles bundles;
+    bundles.copy(QStringLiteral("Good"));
+    const QString bundle = QStringLiteral(BUNDLE_DIR);
+    TestBundles::link(bundle, bundles.path() + QStringLiteral("/Panel.plugin"));
+    const QStringList folder{QStringLiteral("--plugin"), bundles.path()};
+    EXPECT_THAT(run(folder, "{\"do\":\"formatter.new\"}\n").output, HasSubstr("\"ok\":true"));
+}
+
 TEST(PanelSessionProgram, FlushesEveryReply)
 {
     QProcess program;
