@@ -19,6 +19,7 @@ namespace dialog {
 PagePreview::PagePreview(QWidget *parent)
     : QWidget(parent)
     , mCanvas(new PageCanvas(this))
+    , mFoot(new QHBoxLayout)
     , mPrevious(new QToolButton(this))
     , mNumber(new QLabel(this))
     , mNext(new QToolButton(this))
@@ -50,16 +51,20 @@ void PagePreview::buildRow()
     mNumber->setAlignment(Qt::AlignCenter);
     mNumber->setTextFormat(Qt::PlainText);
 
-    auto *row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(mPrevious);
-    row->addWidget(mNumber);
-    row->addWidget(mNext);
-    row->addStretch(1);
+    mFoot->addStretch(1);
+    mFoot->addWidget(mPrevious);
+    mFoot->addWidget(mNumber);
+    mFoot->addWidget(mNext);
+    mFoot->addStretch(1);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(mCanvas, 1);
-    column->addLayout(row);
+    column->addLayout(mFoot);
+}
+
+void PagePreview::addToFoot(QWidget *widget)
+{
+    mFoot->addWidget(widget);
 }
 
 void PagePreview::setDocument(std::shared_ptr<const DocumentPages> document)

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -31,6 +32,9 @@ public:
     /// The label; one without a size is as large as the page.
     void setSheet(const Sheet &sheet);
     void setScaling(Scaling scaling);
+
+    /// Puts `widget` beside the page number and owns it.
+    void addToFoot(QWidget *widget);
 
     /// Counted from 0; a page that does not exist becomes the nearest one.
     void setCurrentPage(int page);
@@ -58,6 +62,7 @@ private:
     bool turnByKey(int key);
 
     PageCanvas *mCanvas;
+    QHBoxLayout *mFoot;
     QToolButton *mPrevious;
     QLabel *mNumber;
     QToolButton *mNext;

@@ -204,6 +204,13 @@ std::vector<PanelGuard *> PanelSet::panels() const
     return working;
 }
 
+bool PanelSet::isHost(const void *address) const
+{
+    return std::any_of(mHosts.begin(), mHosts.end(), [address](const auto &host) {
+        return static_cast<const PDEPluginCallback13_v300_ *>(host.get()) == address;
+    });
+}
+
 QStringList PanelSet::claimedOptions() const
 {
     return mClaimed;

@@ -48,6 +48,9 @@ public:
     /// The panels that work, in the order of their plug-ins. Owned by the set.
     std::vector<PanelGuard *> panels() const;
 
+    /// Whether `address` is that of a panel host of these panels: the object of what they post.
+    bool isHost(const void *address) const;
+
     /// The options that the panels set, as the PPD spells them, each once. A panel that is dropped
     /// after the start leaves its options here: what the user chose in it is printed.
     QStringList claimedOptions() const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PrintDialog.h"
 
+#include "dialog/ColourBadge.h"
 #include "dialog/JobBox.h"
 #include "dialog/LabelSizeBox.h"
 #include "dialog/MessageBar.h"
@@ -26,6 +27,7 @@ PrintDialog::PrintDialog(PrintController &controller, PrinterList &printers, QWi
     , mController(controller)
     , mPrinters(printers)
     , mPreview(new PagePreview(this))
+    , mColours(new ColourBadge(this))
     , mSummary(new SummaryView(this))
     , mPrinterBox(new QComboBox(this))
     , mPrinterState(new QLabel(this))
@@ -62,6 +64,7 @@ PrintDialog::~PrintDialog()
 QLayout *PrintDialog::makePage()
 {
     mPreview->setMinimumWidth(300);
+    mPreview->addToFoot(mColours);
     auto *column = new QVBoxLayout;
     column->addWidget(mPreview, 1);
     column->addWidget(mSummary);

@@ -17,6 +17,7 @@ class QPushButton;
 
 namespace dialog {
 
+class ColourBadge;
 class JobBox;
 class LabelSizeBox;
 class MessageBar;
@@ -99,6 +100,7 @@ private:
     std::optional<Failure> mClash;
 
     PagePreview *mPreview;
+    ColourBadge *mColours;
     SummaryView *mSummary;
     QComboBox *mPrinterBox;
     QLabel *mPrinterState;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PrintDialog.h"
 
+#include "dialog/ColourBadge.h"
 #include "dialog/JobBox.h"
 #include "dialog/LabelSizeBox.h"
 #include "dialog/MessageBar.h"
@@ -130,6 +131,7 @@ void PrintDialog::showSetup()
     mSizeBox->setSizes(ppd ? ppd->sizes() : std::vector<LabelSize>(),
                        ppd ? ppd->customSizes() : std::nullopt);
     mPanels->setSetup(&setup);
+    mColours->setSetup(&setup);
     mSummary->setPanels(&setup.panels());
     connect(&setup.panels(), &PanelSet::failed, mSummary, &SummaryView::updateSoon);
     jobEdited();
@@ -141,6 +143,7 @@ void PrintDialog::showSetup()
 void PrintDialog::letGoOfSetup()
 {
     mPanels->setSetup(nullptr);
+    mColours->setSetup(nullptr);
     mSummary->setPanels(nullptr);
 }
 
@@ -216,6 +219,7 @@ void PrintDialog::showMarks()
 {
     PrinterSetup &setup = *mController.setup();
     mPanels->showMarks();
+    mColours->showMark();
     mSummary->updateSoon();
     if (const std::optional<LabelSize> &size = setup.settings().labelSize()) {
         mSizeBox->setSize(*size);

@@ -29,119 +29,22 @@
     </message>
 </context>
 <context>
-    <name>loading::BundleFinder</name>
+    <name>dialog::ColourBadge</name>
     <message>
-        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>diesen Ordner gibt es nicht; geben Sie mit --plugin den Pfad eines Plug-in-Ordners an</translation>
+        <source>The label is printed in black and red</source>
+        <translation>Das Etikett wird in Schwarz und Rot gedruckt</translation>
     </message>
     <message>
-        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>das ist eine Datei; geben Sie mit --plugin den Pfad eines Plug-in-Ordners an</translation>
+        <source>The label is printed in black</source>
+        <translation>Das Etikett wird in Schwarz gedruckt</translation>
     </message>
     <message>
-        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
-        <translation>in diesem Ordner ist kein Plug-in; geben Sie mit --plugin einen Ordner an, dessen Name auf .plugin endet, oder einen, der solche Ordner enthält</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleLoader</name>
-    <message>
-        <source>plug-in %1 is left out</source>
-        <translation>Plug-in %1 wird ausgelassen</translation>
+        <source>black and red</source>
+        <translation>schwarz und rot</translation>
     </message>
     <message>
-        <source>it is not a folder; install the plug-in again</source>
-        <translation>es ist kein Ordner; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
-        <translation>seine Programmdatei „%1“ fehlt; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
-        <translation>seine bundle.json fehlt oder ist nicht lesbar; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
-        <translation>seine bundle.json ist größer als %1 Byte; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
-        <translation>seine Programmdatei „%1“ kann nicht geladen werden (%2); installieren Sie die Fassung des Plug-ins für dieses System</translation>
-    </message>
-    <message>
-        <source>its program file lacks the function %1; ask its maker for another one</source>
-        <translation>seiner Programmdatei fehlt die Funktion %1; fragen Sie den Hersteller nach einer anderen</translation>
-    </message>
-    <message>
-        <source>it declines to work here; ask its maker which systems it is for</source>
-        <translation>es lehnt die Arbeit auf diesem System ab; fragen Sie den Hersteller, für welche Systeme es gedacht ist</translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation>unbekannter Fehler</translation>
-    </message>
-    <message>
-        <source>it failed to start (%1); install the plug-in again or remove it</source>
-        <translation>es konnte nicht gestartet werden (%1); installieren Sie das Plug-in neu oder entfernen Sie es</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleMetadata</name>
-    <message>
-        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
-        <translation>seine bundle.json ist beschädigt (%1, Byte %2); installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its bundle.json holds no JSON object; install the plug-in again</source>
-        <translation>seine bundle.json enthält kein JSON-Objekt; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no interface version; ask its maker for another one</source>
-        <translation>seine bundle.json nennt keine Schnittstellenversion; fragen Sie den Hersteller nach einer anderen</translation>
-    </message>
-    <message>
-        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
-        <translation>es ist für Version %1 der Schnittstelle des Druckdialogs gemacht, dies ist Version %2; installieren Sie eine Fassung, die zu diesem Dialog passt</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no principal class; ask its maker for another one</source>
-        <translation>seine bundle.json nennt keine Hauptklasse; fragen Sie den Hersteller nach einer anderen</translation>
-    </message>
-    <message>
-        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
-        <translation>seine bundle.json nennt die Programmdatei nicht mit einem einfachen Dateinamen; fragen Sie den Hersteller nach einer anderen</translation>
-    </message>
-    <message>
-        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
-        <translation>es hat kein Bedienfeld für den Druckdialog; entfernen Sie es oder installieren Sie das richtige Plug-in</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleTrust</name>
-    <message>
-        <source>it holds more than %1 files; install the plug-in again</source>
-        <translation>es enthält mehr als %1 Dateien; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
-        <translation>„%1“ darin kann nicht geprüft werden; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
-        <translation>„%1“ darin ist weder eine Datei noch ein Ordner; installieren Sie das Plug-in neu</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
-        <translation>„%1“ gehört einem anderen Benutzer, der ändern könnte, was es tut; installieren Sie das Plug-in selbst oder als root</translation>
-    </message>
-    <message>
-        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
-        <translation>andere dürfen in „%1“ schreiben und so ändern, was es tut; führen Sie chmod -R go-w &quot;%2&quot; aus, wenn Sie dem Inhalt vertrauen</translation>
-    </message>
-    <message>
-        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
-        <translation>der Link „%1“ darin führt aus seinem Ordner hinaus oder ins Leere; installieren Sie das Plug-in neu</translation>
+        <source>black</source>
+        <translation>schwarz</translation>
     </message>
 </context>
 <context>
@@ -987,6 +890,122 @@
     <message>
         <source>is an SVG drawing of more than five metres; make it smaller</source>
         <translation>ist eine SVG-Zeichnung von mehr als fünf Metern; verkleinern Sie sie</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleFinder</name>
+    <message>
+        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>diesen Ordner gibt es nicht; geben Sie mit --plugin den Pfad eines Plug-in-Ordners an</translation>
+    </message>
+    <message>
+        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>das ist eine Datei; geben Sie mit --plugin den Pfad eines Plug-in-Ordners an</translation>
+    </message>
+    <message>
+        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
+        <translation>in diesem Ordner ist kein Plug-in; geben Sie mit --plugin einen Ordner an, dessen Name auf .plugin endet, oder einen, der solche Ordner enthält</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleLoader</name>
+    <message>
+        <source>plug-in %1 is left out</source>
+        <translation>Plug-in %1 wird ausgelassen</translation>
+    </message>
+    <message>
+        <source>it is not a folder; install the plug-in again</source>
+        <translation>es ist kein Ordner; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
+        <translation>seine Programmdatei „%1“ fehlt; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
+        <translation>seine bundle.json fehlt oder ist nicht lesbar; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
+        <translation>seine bundle.json ist größer als %1 Byte; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
+        <translation>seine Programmdatei „%1“ kann nicht geladen werden (%2); installieren Sie die Fassung des Plug-ins für dieses System</translation>
+    </message>
+    <message>
+        <source>its program file lacks the function %1; ask its maker for another one</source>
+        <translation>seiner Programmdatei fehlt die Funktion %1; fragen Sie den Hersteller nach einer anderen</translation>
+    </message>
+    <message>
+        <source>it declines to work here; ask its maker which systems it is for</source>
+        <translation>es lehnt die Arbeit auf diesem System ab; fragen Sie den Hersteller, für welche Systeme es gedacht ist</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>it failed to start (%1); install the plug-in again or remove it</source>
+        <translation>es konnte nicht gestartet werden (%1); installieren Sie das Plug-in neu oder entfernen Sie es</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleMetadata</name>
+    <message>
+        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
+        <translation>seine bundle.json ist beschädigt (%1, Byte %2); installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its bundle.json holds no JSON object; install the plug-in again</source>
+        <translation>seine bundle.json enthält kein JSON-Objekt; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no interface version; ask its maker for another one</source>
+        <translation>seine bundle.json nennt keine Schnittstellenversion; fragen Sie den Hersteller nach einer anderen</translation>
+    </message>
+    <message>
+        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
+        <translation>es ist für Version %1 der Schnittstelle des Druckdialogs gemacht, dies ist Version %2; installieren Sie eine Fassung, die zu diesem Dialog passt</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no principal class; ask its maker for another one</source>
+        <translation>seine bundle.json nennt keine Hauptklasse; fragen Sie den Hersteller nach einer anderen</translation>
+    </message>
+    <message>
+        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
+        <translation>seine bundle.json nennt die Programmdatei nicht mit einem einfachen Dateinamen; fragen Sie den Hersteller nach einer anderen</translation>
+    </message>
+    <message>
+        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
+        <translation>es hat kein Bedienfeld für den Druckdialog; entfernen Sie es oder installieren Sie das richtige Plug-in</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleTrust</name>
+    <message>
+        <source>it holds more than %1 files; install the plug-in again</source>
+        <translation>es enthält mehr als %1 Dateien; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
+        <translation>„%1“ darin kann nicht geprüft werden; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
+        <translation>„%1“ darin ist weder eine Datei noch ein Ordner; installieren Sie das Plug-in neu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
+        <translation>„%1“ gehört einem anderen Benutzer, der ändern könnte, was es tut; installieren Sie das Plug-in selbst oder als root</translation>
+    </message>
+    <message>
+        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
+        <translation>andere dürfen in „%1“ schreiben und so ändern, was es tut; führen Sie chmod -R go-w &quot;%2&quot; aus, wenn Sie dem Inhalt vertrauen</translation>
+    </message>
+    <message>
+        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
+        <translation>der Link „%1“ darin führt aus seinem Ordner hinaus oder ins Leere; installieren Sie das Plug-in neu</translation>
     </message>
 </context>
 </TS>

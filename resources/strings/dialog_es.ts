@@ -29,119 +29,22 @@
     </message>
 </context>
 <context>
-    <name>loading::BundleFinder</name>
+    <name>dialog::ColourBadge</name>
     <message>
-        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>no existe esa carpeta; indique en --plugin la ruta de la carpeta de un complemento</translation>
+        <source>The label is printed in black and red</source>
+        <translation>La etiqueta se imprime en negro y rojo</translation>
     </message>
     <message>
-        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>es un archivo; indique en --plugin la ruta de la carpeta de un complemento</translation>
+        <source>The label is printed in black</source>
+        <translation>La etiqueta se imprime en negro</translation>
     </message>
     <message>
-        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
-        <translation>no hay ningún complemento en esta carpeta; indique en --plugin una carpeta cuyo nombre termine en .plugin o que contenga carpetas de ese tipo</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleLoader</name>
-    <message>
-        <source>plug-in %1 is left out</source>
-        <translation>se omite el complemento %1</translation>
+        <source>black and red</source>
+        <translation>negro y rojo</translation>
     </message>
     <message>
-        <source>it is not a folder; install the plug-in again</source>
-        <translation>no es una carpeta; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
-        <translation>falta su archivo de programa «%1»; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
-        <translation>falta su archivo bundle.json o no se puede leer; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
-        <translation>su archivo bundle.json ocupa más de %1 bytes; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
-        <translation>no se puede cargar su archivo de programa «%1» (%2); instale la versión del complemento para este sistema</translation>
-    </message>
-    <message>
-        <source>its program file lacks the function %1; ask its maker for another one</source>
-        <translation>a su archivo de programa le falta la función %1; pida otro a su fabricante</translation>
-    </message>
-    <message>
-        <source>it declines to work here; ask its maker which systems it is for</source>
-        <translation>se niega a funcionar aquí; pregunte a su fabricante para qué sistemas es</translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation>error desconocido</translation>
-    </message>
-    <message>
-        <source>it failed to start (%1); install the plug-in again or remove it</source>
-        <translation>no se pudo iniciar (%1); vuelva a instalar el complemento o quítelo</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleMetadata</name>
-    <message>
-        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
-        <translation>su archivo bundle.json está dañado (%1, byte %2); vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its bundle.json holds no JSON object; install the plug-in again</source>
-        <translation>su archivo bundle.json no contiene ningún objeto JSON; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no interface version; ask its maker for another one</source>
-        <translation>su archivo bundle.json no indica la versión de la interfaz; pida otro a su fabricante</translation>
-    </message>
-    <message>
-        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
-        <translation>está hecho para la versión %1 de la interfaz del diálogo de impresión y esta es la versión %2; instale una versión adecuada para este diálogo</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no principal class; ask its maker for another one</source>
-        <translation>su archivo bundle.json no indica la clase principal; pida otro a su fabricante</translation>
-    </message>
-    <message>
-        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
-        <translation>su archivo bundle.json no indica el archivo de programa con un simple nombre de archivo; pida otro a su fabricante</translation>
-    </message>
-    <message>
-        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
-        <translation>no tiene ningún panel para el diálogo de impresión; quítelo o instale el complemento correcto</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleTrust</name>
-    <message>
-        <source>it holds more than %1 files; install the plug-in again</source>
-        <translation>contiene más de %1 archivos; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
-        <translation>no se puede examinar «%1», que está en él; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
-        <translation>«%1», que está en él, no es ni un archivo ni una carpeta; vuelva a instalar el complemento</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
-        <translation>«%1» pertenece a otro usuario, que podría cambiar lo que hace; instale el complemento usted mismo o como root</translation>
-    </message>
-    <message>
-        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
-        <translation>otros pueden escribir en «%1» y cambiar así lo que hace; ejecute chmod -R go-w &quot;%2&quot; si confía en su contenido</translation>
-    </message>
-    <message>
-        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
-        <translation>el enlace «%1», que está en él, lleva fuera de su carpeta o a ninguna parte; vuelva a instalar el complemento</translation>
+        <source>black</source>
+        <translation>negro</translation>
     </message>
 </context>
 <context>
@@ -987,6 +890,122 @@
     <message>
         <source>is an SVG drawing of more than five metres; make it smaller</source>
         <translation>es un dibujo SVG de más de cinco metros; redúzcalo</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleFinder</name>
+    <message>
+        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>no existe esa carpeta; indique en --plugin la ruta de la carpeta de un complemento</translation>
+    </message>
+    <message>
+        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>es un archivo; indique en --plugin la ruta de la carpeta de un complemento</translation>
+    </message>
+    <message>
+        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
+        <translation>no hay ningún complemento en esta carpeta; indique en --plugin una carpeta cuyo nombre termine en .plugin o que contenga carpetas de ese tipo</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleLoader</name>
+    <message>
+        <source>plug-in %1 is left out</source>
+        <translation>se omite el complemento %1</translation>
+    </message>
+    <message>
+        <source>it is not a folder; install the plug-in again</source>
+        <translation>no es una carpeta; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
+        <translation>falta su archivo de programa «%1»; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
+        <translation>falta su archivo bundle.json o no se puede leer; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
+        <translation>su archivo bundle.json ocupa más de %1 bytes; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
+        <translation>no se puede cargar su archivo de programa «%1» (%2); instale la versión del complemento para este sistema</translation>
+    </message>
+    <message>
+        <source>its program file lacks the function %1; ask its maker for another one</source>
+        <translation>a su archivo de programa le falta la función %1; pida otro a su fabricante</translation>
+    </message>
+    <message>
+        <source>it declines to work here; ask its maker which systems it is for</source>
+        <translation>se niega a funcionar aquí; pregunte a su fabricante para qué sistemas es</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>error desconocido</translation>
+    </message>
+    <message>
+        <source>it failed to start (%1); install the plug-in again or remove it</source>
+        <translation>no se pudo iniciar (%1); vuelva a instalar el complemento o quítelo</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleMetadata</name>
+    <message>
+        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
+        <translation>su archivo bundle.json está dañado (%1, byte %2); vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its bundle.json holds no JSON object; install the plug-in again</source>
+        <translation>su archivo bundle.json no contiene ningún objeto JSON; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no interface version; ask its maker for another one</source>
+        <translation>su archivo bundle.json no indica la versión de la interfaz; pida otro a su fabricante</translation>
+    </message>
+    <message>
+        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
+        <translation>está hecho para la versión %1 de la interfaz del diálogo de impresión y esta es la versión %2; instale una versión adecuada para este diálogo</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no principal class; ask its maker for another one</source>
+        <translation>su archivo bundle.json no indica la clase principal; pida otro a su fabricante</translation>
+    </message>
+    <message>
+        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
+        <translation>su archivo bundle.json no indica el archivo de programa con un simple nombre de archivo; pida otro a su fabricante</translation>
+    </message>
+    <message>
+        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
+        <translation>no tiene ningún panel para el diálogo de impresión; quítelo o instale el complemento correcto</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleTrust</name>
+    <message>
+        <source>it holds more than %1 files; install the plug-in again</source>
+        <translation>contiene más de %1 archivos; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
+        <translation>no se puede examinar «%1», que está en él; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
+        <translation>«%1», que está en él, no es ni un archivo ni una carpeta; vuelva a instalar el complemento</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
+        <translation>«%1» pertenece a otro usuario, que podría cambiar lo que hace; instale el complemento usted mismo o como root</translation>
+    </message>
+    <message>
+        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
+        <translation>otros pueden escribir en «%1» y cambiar así lo que hace; ejecute chmod -R go-w &quot;%2&quot; si confía en su contenido</translation>
+    </message>
+    <message>
+        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
+        <translation>el enlace «%1», que está en él, lleva fuera de su carpeta o a ninguna parte; vuelva a instalar el complemento</translation>
     </message>
 </context>
 </TS>

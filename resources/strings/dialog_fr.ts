@@ -29,119 +29,22 @@
     </message>
 </context>
 <context>
-    <name>loading::BundleFinder</name>
+    <name>dialog::ColourBadge</name>
     <message>
-        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>ce dossier n’existe pas&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
+        <source>The label is printed in black and red</source>
+        <translation>L’étiquette est imprimée en noir et rouge</translation>
     </message>
     <message>
-        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>c’est un fichier&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
+        <source>The label is printed in black</source>
+        <translation>L’étiquette est imprimée en noir</translation>
     </message>
     <message>
-        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
-        <translation>ce dossier ne contient aucun module&#xa0;; indiquez à --plugin un dossier dont le nom se termine par .plugin ou qui contient de tels dossiers</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleLoader</name>
-    <message>
-        <source>plug-in %1 is left out</source>
-        <translation>le module %1 est écarté</translation>
+        <source>black and red</source>
+        <translation>noir et rouge</translation>
     </message>
     <message>
-        <source>it is not a folder; install the plug-in again</source>
-        <translation>ce n’est pas un dossier&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
-        <translation>son fichier de programme «&#xa0;%1&#xa0;» est absent&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
-        <translation>son fichier bundle.json est absent ou illisible&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
-        <translation>son fichier bundle.json dépasse %1 octets&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
-        <translation>son fichier de programme «&#xa0;%1&#xa0;» ne peut pas être chargé (%2)&#xa0;; installez la version du module prévue pour ce système</translation>
-    </message>
-    <message>
-        <source>its program file lacks the function %1; ask its maker for another one</source>
-        <translation>la fonction %1 manque dans son fichier de programme&#xa0;; demandez-en un autre à son fabricant</translation>
-    </message>
-    <message>
-        <source>it declines to work here; ask its maker which systems it is for</source>
-        <translation>il refuse de fonctionner ici&#xa0;; demandez à son fabricant à quels systèmes il est destiné</translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation>erreur inconnue</translation>
-    </message>
-    <message>
-        <source>it failed to start (%1); install the plug-in again or remove it</source>
-        <translation>il n’a pas pu démarrer (%1)&#xa0;; réinstallez le module ou supprimez-le</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleMetadata</name>
-    <message>
-        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
-        <translation>son fichier bundle.json est endommagé (%1, octet %2)&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its bundle.json holds no JSON object; install the plug-in again</source>
-        <translation>son fichier bundle.json ne contient pas d’objet JSON&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no interface version; ask its maker for another one</source>
-        <translation>son fichier bundle.json n’indique pas de version d’interface&#xa0;; demandez-en un autre à son fabricant</translation>
-    </message>
-    <message>
-        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
-        <translation>il est fait pour la version %1 de l’interface de la boîte de dialogue d’impression, et celle-ci est la version %2&#xa0;; installez une version qui lui convient</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no principal class; ask its maker for another one</source>
-        <translation>son fichier bundle.json n’indique pas de classe principale&#xa0;; demandez-en un autre à son fabricant</translation>
-    </message>
-    <message>
-        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
-        <translation>son fichier bundle.json ne désigne pas le fichier de programme par un simple nom de fichier&#xa0;; demandez-en un autre à son fabricant</translation>
-    </message>
-    <message>
-        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
-        <translation>il n’a pas de panneau pour la boîte de dialogue d’impression&#xa0;; supprimez-le ou installez le bon module</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleTrust</name>
-    <message>
-        <source>it holds more than %1 files; install the plug-in again</source>
-        <translation>il contient plus de %1 fichiers&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
-        <translation>«&#xa0;%1&#xa0;» qu’il contient ne peut pas être examiné&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
-        <translation>«&#xa0;%1&#xa0;» qu’il contient n’est ni un fichier ni un dossier&#xa0;; réinstallez le module</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
-        <translation>«&#xa0;%1&#xa0;» appartient à un autre utilisateur, qui pourrait modifier son comportement&#xa0;; installez le module vous-même ou en tant que root</translation>
-    </message>
-    <message>
-        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
-        <translation>d’autres peuvent écrire dans «&#xa0;%1&#xa0;» et ainsi modifier son comportement&#xa0;; exécutez chmod -R go-w &quot;%2&quot; si vous faites confiance à son contenu</translation>
-    </message>
-    <message>
-        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
-        <translation>le lien «&#xa0;%1&#xa0;» qu’il contient mène hors de son dossier ou nulle part&#xa0;; réinstallez le module</translation>
+        <source>black</source>
+        <translation>noir</translation>
     </message>
 </context>
 <context>
@@ -987,6 +890,122 @@
     <message>
         <source>is an SVG drawing of more than five metres; make it smaller</source>
         <translation>est un dessin SVG de plus de cinq mètres&#xa0;; réduisez-le</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleFinder</name>
+    <message>
+        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>ce dossier n’existe pas&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
+    </message>
+    <message>
+        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>c’est un fichier&#xa0;; indiquez à --plugin le chemin du dossier d’un module</translation>
+    </message>
+    <message>
+        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
+        <translation>ce dossier ne contient aucun module&#xa0;; indiquez à --plugin un dossier dont le nom se termine par .plugin ou qui contient de tels dossiers</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleLoader</name>
+    <message>
+        <source>plug-in %1 is left out</source>
+        <translation>le module %1 est écarté</translation>
+    </message>
+    <message>
+        <source>it is not a folder; install the plug-in again</source>
+        <translation>ce n’est pas un dossier&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
+        <translation>son fichier de programme «&#xa0;%1&#xa0;» est absent&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
+        <translation>son fichier bundle.json est absent ou illisible&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
+        <translation>son fichier bundle.json dépasse %1 octets&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
+        <translation>son fichier de programme «&#xa0;%1&#xa0;» ne peut pas être chargé (%2)&#xa0;; installez la version du module prévue pour ce système</translation>
+    </message>
+    <message>
+        <source>its program file lacks the function %1; ask its maker for another one</source>
+        <translation>la fonction %1 manque dans son fichier de programme&#xa0;; demandez-en un autre à son fabricant</translation>
+    </message>
+    <message>
+        <source>it declines to work here; ask its maker which systems it is for</source>
+        <translation>il refuse de fonctionner ici&#xa0;; demandez à son fabricant à quels systèmes il est destiné</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>erreur inconnue</translation>
+    </message>
+    <message>
+        <source>it failed to start (%1); install the plug-in again or remove it</source>
+        <translation>il n’a pas pu démarrer (%1)&#xa0;; réinstallez le module ou supprimez-le</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleMetadata</name>
+    <message>
+        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
+        <translation>son fichier bundle.json est endommagé (%1, octet %2)&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its bundle.json holds no JSON object; install the plug-in again</source>
+        <translation>son fichier bundle.json ne contient pas d’objet JSON&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no interface version; ask its maker for another one</source>
+        <translation>son fichier bundle.json n’indique pas de version d’interface&#xa0;; demandez-en un autre à son fabricant</translation>
+    </message>
+    <message>
+        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
+        <translation>il est fait pour la version %1 de l’interface de la boîte de dialogue d’impression, et celle-ci est la version %2&#xa0;; installez une version qui lui convient</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no principal class; ask its maker for another one</source>
+        <translation>son fichier bundle.json n’indique pas de classe principale&#xa0;; demandez-en un autre à son fabricant</translation>
+    </message>
+    <message>
+        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
+        <translation>son fichier bundle.json ne désigne pas le fichier de programme par un simple nom de fichier&#xa0;; demandez-en un autre à son fabricant</translation>
+    </message>
+    <message>
+        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
+        <translation>il n’a pas de panneau pour la boîte de dialogue d’impression&#xa0;; supprimez-le ou installez le bon module</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleTrust</name>
+    <message>
+        <source>it holds more than %1 files; install the plug-in again</source>
+        <translation>il contient plus de %1 fichiers&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
+        <translation>«&#xa0;%1&#xa0;» qu’il contient ne peut pas être examiné&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
+        <translation>«&#xa0;%1&#xa0;» qu’il contient n’est ni un fichier ni un dossier&#xa0;; réinstallez le module</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
+        <translation>«&#xa0;%1&#xa0;» appartient à un autre utilisateur, qui pourrait modifier son comportement&#xa0;; installez le module vous-même ou en tant que root</translation>
+    </message>
+    <message>
+        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
+        <translation>d’autres peuvent écrire dans «&#xa0;%1&#xa0;» et ainsi modifier son comportement&#xa0;; exécutez chmod -R go-w &quot;%2&quot; si vous faites confiance à son contenu</translation>
+    </message>
+    <message>
+        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
+        <translation>le lien «&#xa0;%1&#xa0;» qu’il contient mène hors de son dossier ou nulle part&#xa0;; réinstallez le module</translation>
     </message>
 </context>
 </TS>

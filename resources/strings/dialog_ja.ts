@@ -29,119 +29,22 @@
     </message>
 </context>
 <context>
-    <name>loading::BundleFinder</name>
+    <name>dialog::ColourBadge</name>
     <message>
-        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>そのようなフォルダーはありません。--plugin にはプラグインのフォルダーのパスを指定してください</translation>
+        <source>The label is printed in black and red</source>
+        <translation>ラベルは黒と赤で印刷されます</translation>
     </message>
     <message>
-        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
-        <translation>これはファイルです。--plugin にはプラグインのフォルダーのパスを指定してください</translation>
+        <source>The label is printed in black</source>
+        <translation>ラベルは黒で印刷されます</translation>
     </message>
     <message>
-        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
-        <translation>このフォルダーにプラグインはありません。--plugin には名前が .plugin で終わるフォルダーか、そのようなフォルダーを含むフォルダーを指定してください</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleLoader</name>
-    <message>
-        <source>plug-in %1 is left out</source>
-        <translation>プラグイン %1 は使われません</translation>
+        <source>black and red</source>
+        <translation>黒と赤</translation>
     </message>
     <message>
-        <source>it is not a folder; install the plug-in again</source>
-        <translation>フォルダーではありません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
-        <translation>プログラムファイル「%1」がありません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
-        <translation>bundle.json がないか、読み取れません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
-        <translation>bundle.json が %1 バイトを超えています。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
-        <translation>プログラムファイル「%1」を読み込めません (%2)。このシステム用のプラグインをインストールしてください</translation>
-    </message>
-    <message>
-        <source>its program file lacks the function %1; ask its maker for another one</source>
-        <translation>プログラムファイルに関数 %1 がありません。開発元に別のものを求めてください</translation>
-    </message>
-    <message>
-        <source>it declines to work here; ask its maker which systems it is for</source>
-        <translation>このシステムでは動作しません。対応するシステムを開発元に確認してください</translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation>不明なエラー</translation>
-    </message>
-    <message>
-        <source>it failed to start (%1); install the plug-in again or remove it</source>
-        <translation>起動できませんでした (%1)。プラグインを再インストールするか、削除してください</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleMetadata</name>
-    <message>
-        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
-        <translation>bundle.json が壊れています (%1、%2 バイト目)。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json holds no JSON object; install the plug-in again</source>
-        <translation>bundle.json に JSON オブジェクトがありません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no interface version; ask its maker for another one</source>
-        <translation>bundle.json にインターフェースのバージョンがありません。開発元に別のものを求めてください</translation>
-    </message>
-    <message>
-        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
-        <translation>印刷ダイアログのインターフェース バージョン %1 用ですが、このダイアログはバージョン %2 です。このダイアログに合う版をインストールしてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json names no principal class; ask its maker for another one</source>
-        <translation>bundle.json に主クラスの指定がありません。開発元に別のものを求めてください</translation>
-    </message>
-    <message>
-        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
-        <translation>bundle.json のプログラムファイルの指定が単純なファイル名ではありません。開発元に別のものを求めてください</translation>
-    </message>
-    <message>
-        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
-        <translation>印刷ダイアログ用のパネルがありません。削除するか、正しいプラグインをインストールしてください</translation>
-    </message>
-</context>
-<context>
-    <name>loading::BundleTrust</name>
-    <message>
-        <source>it holds more than %1 files; install the plug-in again</source>
-        <translation>%1 個を超えるファイルが含まれています。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
-        <translation>中の「%1」を調べられません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
-        <translation>中の「%1」はファイルでもフォルダーでもありません。プラグインを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
-        <translation>「%1」は別のユーザーのもので、動作を変えられるおそれがあります。自分で、または root としてプラグインをインストールしてください</translation>
-    </message>
-    <message>
-        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
-        <translation>ほかのユーザーが「%1」に書き込み、動作を変えられます。内容を信頼できる場合は chmod -R go-w &quot;%2&quot; を実行してください</translation>
-    </message>
-    <message>
-        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
-        <translation>中のリンク「%1」がフォルダーの外を指しているか、リンク先がありません。プラグインを再インストールしてください</translation>
+        <source>black</source>
+        <translation>黒</translation>
     </message>
 </context>
 <context>
@@ -985,6 +888,122 @@
     <message>
         <source>is an SVG drawing of more than five metres; make it smaller</source>
         <translation>5 メートルを超える SVG 図面です。小さくしてください</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleFinder</name>
+    <message>
+        <source>there is no such folder; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>そのようなフォルダーはありません。--plugin にはプラグインのフォルダーのパスを指定してください</translation>
+    </message>
+    <message>
+        <source>this is a file; give --plugin the path of a plug-in&apos;s folder</source>
+        <translation>これはファイルです。--plugin にはプラグインのフォルダーのパスを指定してください</translation>
+    </message>
+    <message>
+        <source>there is no plug-in in this folder; give --plugin a folder whose name ends in .plugin, or one that holds such folders</source>
+        <translation>このフォルダーにプラグインはありません。--plugin には名前が .plugin で終わるフォルダーか、そのようなフォルダーを含むフォルダーを指定してください</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleLoader</name>
+    <message>
+        <source>plug-in %1 is left out</source>
+        <translation>プラグイン %1 は使われません</translation>
+    </message>
+    <message>
+        <source>it is not a folder; install the plug-in again</source>
+        <translation>フォルダーではありません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; is missing; install the plug-in again</source>
+        <translation>プログラムファイル「%1」がありません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json is missing or cannot be read; install the plug-in again</source>
+        <translation>bundle.json がないか、読み取れません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json is larger than %1 bytes; install the plug-in again</source>
+        <translation>bundle.json が %1 バイトを超えています。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its program file &quot;%1&quot; cannot be loaded (%2); install the version of the plug-in for this system</source>
+        <translation>プログラムファイル「%1」を読み込めません (%2)。このシステム用のプラグインをインストールしてください</translation>
+    </message>
+    <message>
+        <source>its program file lacks the function %1; ask its maker for another one</source>
+        <translation>プログラムファイルに関数 %1 がありません。開発元に別のものを求めてください</translation>
+    </message>
+    <message>
+        <source>it declines to work here; ask its maker which systems it is for</source>
+        <translation>このシステムでは動作しません。対応するシステムを開発元に確認してください</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>不明なエラー</translation>
+    </message>
+    <message>
+        <source>it failed to start (%1); install the plug-in again or remove it</source>
+        <translation>起動できませんでした (%1)。プラグインを再インストールするか、削除してください</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleMetadata</name>
+    <message>
+        <source>its bundle.json is damaged (%1, byte %2); install the plug-in again</source>
+        <translation>bundle.json が壊れています (%1、%2 バイト目)。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json holds no JSON object; install the plug-in again</source>
+        <translation>bundle.json に JSON オブジェクトがありません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no interface version; ask its maker for another one</source>
+        <translation>bundle.json にインターフェースのバージョンがありません。開発元に別のものを求めてください</translation>
+    </message>
+    <message>
+        <source>it is made for version %1 of the print dialog&apos;s interface and this is version %2; install a version of it that fits this dialog</source>
+        <translation>印刷ダイアログのインターフェース バージョン %1 用ですが、このダイアログはバージョン %2 です。このダイアログに合う版をインストールしてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json names no principal class; ask its maker for another one</source>
+        <translation>bundle.json に主クラスの指定がありません。開発元に別のものを求めてください</translation>
+    </message>
+    <message>
+        <source>its bundle.json does not name its program file by a plain file name; ask its maker for another one</source>
+        <translation>bundle.json のプログラムファイルの指定が単純なファイル名ではありません。開発元に別のものを求めてください</translation>
+    </message>
+    <message>
+        <source>it has no panel for the print dialog; remove it or install the right plug-in</source>
+        <translation>印刷ダイアログ用のパネルがありません。削除するか、正しいプラグインをインストールしてください</translation>
+    </message>
+</context>
+<context>
+    <name>loading::BundleTrust</name>
+    <message>
+        <source>it holds more than %1 files; install the plug-in again</source>
+        <translation>%1 個を超えるファイルが含まれています。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it cannot be examined; install the plug-in again</source>
+        <translation>中の「%1」を調べられません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it is neither a file nor a folder; install the plug-in again</source>
+        <translation>中の「%1」はファイルでもフォルダーでもありません。プラグインを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user, who could change what it does; install the plug-in yourself or as root</source>
+        <translation>「%1」は別のユーザーのもので、動作を変えられるおそれがあります。自分で、または root としてプラグインをインストールしてください</translation>
+    </message>
+    <message>
+        <source>others can write to &quot;%1&quot; and so change what it does; run chmod -R go-w &quot;%2&quot; if you trust its content</source>
+        <translation>ほかのユーザーが「%1」に書き込み、動作を変えられます。内容を信頼できる場合は chmod -R go-w &quot;%2&quot; を実行してください</translation>
+    </message>
+    <message>
+        <source>the link &quot;%1&quot; in it leads out of its folder or nowhere; install the plug-in again</source>
+        <translation>中のリンク「%1」がフォルダーの外を指しているか、リンク先がありません。プラグインを再インストールしてください</translation>
     </message>
 </context>
 </TS>
