@@ -118,7 +118,7 @@ void filterInPlace(benchmark::State &state)
     });
 }
 
-void filterByPath(benchmark::State &state, imaging::ColorPath path)
+void filterByPath(benchmark::State &state, imaging::ProcessorPath path)
 {
     Pictures pictures(state);
     const imaging::ColorControls filter({kBrightness, 1.0F}, {0.0F, kContrast});
@@ -156,7 +156,7 @@ int main(int argc, char **argv)
     add("filter", filterPicture);
     add("filter in place", filterInPlace);
     constexpr const char *kPathNames[] = {"filter, plain", "filter, SSE2", "filter, AVX2"};
-    for (const imaging::ColorPath path : imaging::colorPaths()) {
+    for (const imaging::ProcessorPath path : imaging::processorPaths()) {
         add(kPathNames[int(path)], filterByPath, path);
     }
 #ifdef HAVE_OPENCV

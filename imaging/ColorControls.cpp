@@ -41,13 +41,13 @@ std::size_t filterNothing(const FixedPointMap &, const std::uint8_t *, std::uint
     return 0;
 }
 
-RowFilter rowFilter(ColorPath path)
+RowFilter rowFilter(ProcessorPath path)
 {
     switch (path) {
 #if defined(__x86_64__)
-    case ColorPath::Avx2:
+    case ProcessorPath::Avx2:
         return filterRowAvx2;
-    case ColorPath::Sse2:
+    case ProcessorPath::Sse2:
         return filterRowSse2;
 #endif
     default:
@@ -55,25 +55,7 @@ RowFilter rowFilter(ColorPath path)
     }
 }
 
-ColorPath fastestPath()
-{
-    static const ColorPath fastest = colorPaths().back();
-    return fastest;
-}
-
 } // namespace
-
-std::vector<ColorPath> colorPaths()
-{
-    std::vector<ColorPath> paths{ColorPath::Plain};
-#if defined(__x86_64__)
-    paths.push_back(ColorPath::Sse2);
-    if (__builtin_cpu_supports("avx2")) {
-        paths.push_back(ColorPath::Avx2);
-    }
-#endif
-    return paths;
-}
 
 ColorControls::ColorControls(ColorPass first, ColorPass second)
     : mTable()
@@ -90,7 +72,7 @@ void ColorControls::apply(PixelRows<const std::uint8_t> from, PixelRows<std::uin
 }
 
 void ColorControls::apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to,
-                          ColorPath path) const
+                          ProcessorPath path) const
 {
     const RowFilter filterRow = mFixedPoint ? rowFilter(path) : filterNothing;
     const FixedPointMap map = mFixedPoint.value_or(FixedPointMap());

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "imaging/FixedPointMap.h"
+#include "imaging/ProcessorPath.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 namespace imaging {
 
@@ -28,17 +28,6 @@ template <typename Byte> struct PixelRows
     std::size_t bytesPerRow = 0;
 };
 
-/// The ways to do the work; all give the same bytes.
-enum class ColorPath
-{
-    Plain,
-    Sse2,
-    Avx2
-};
-
-/// The ways that this processor can go, the fastest last. Plain is always there.
-std::vector<ColorPath> colorPaths();
-
 /// Two passes of the colour-controls filter over 8-bit pixels, done in one sweep.
 ///
 /// The second pass works on the unclamped result of the first; tones are clamped and rounded once,
@@ -57,9 +46,9 @@ public:
     /// Filters `from` into `to`, which has the same size and is either the same memory or apart.
     void apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to) const;
 
-    /// The same, done in a way that is one of colorPaths().
+    /// The same, done in a way that is one of processorPaths().
     void apply(PixelRows<const std::uint8_t> from, PixelRows<std::uint8_t> to,
-               ColorPath path) const;
+               ProcessorPath path) const;
 
 private:
     ToneTable mTable;

@@ -13,7 +13,7 @@ using namespace imaging;
 
 namespace imaging {
 
-void PrintTo(ColorPath path, std::ostream *out)
+void PrintTo(ProcessorPath path, std::ostream *out)
 {
     constexpr const char *kNames[] = {"Plain", "Sse2", "Avx2"};
     *out << kNames[int(path)];
@@ -88,7 +88,7 @@ std::vector<Levels> allLevels()
     return levels;
 }
 
-class ColorControlsPath : public testing::TestWithParam<ColorPath>
+class ColorControlsPath : public testing::TestWithParam<ProcessorPath>
 {
 protected:
     Bytes filtered(const ColorControls &filter, const Bytes &pixels) const
@@ -208,13 +208,14 @@ TEST_P(ColorControlsPath, TakesAPictureWithoutRows)
     EXPECT_EQ(byte, 9);
 }
 
-std::string nameOf(const testing::TestParamInfo<ColorPath> &path)
+std::string nameOf(const testing::TestParamInfo<ProcessorPath> &path)
 {
     return testing::PrintToString(path.param);
 }
 
 // A way that the processor lacks has no test of its own, rather than one that passes untried.
-INSTANTIATE_TEST_SUITE_P(ThisProcessor, ColorControlsPath, testing::ValuesIn(colorPaths()), nameOf);
+INSTANTIATE_TEST_SUITE_P(ThisProcessor, ColorControlsPath, testing::ValuesIn(processorPaths()),
+                         nameOf);
 
 TEST(ColorControls, TheFastestWayIsTaken)
 {
@@ -222,7 +223,7 @@ TEST(ColorControls, TheFastestWayIsTaken)
     Bytes result(pixels.size());
     filterForLevels(4, 4).apply({pixels.data(), 256, 1, 1024}, {result.data(), 256, 1, 1024});
     EXPECT_EQ(result, expectedPixels(pixels, 0.1F, 1.1F));
-    EXPECT_EQ(colorPaths().front(), ColorPath::Plain);
+    EXPECT_EQ(processorPaths().front(), ProcessorPath::Plain);
 }
 
 TEST(ColorControls, EveryPairOfLevelsHasExactVectorArithmetic)
