@@ -1,29 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "imaging/ColorControls.h"
 
-#include <gmock/gmock.h>
+#include "Pages.h"
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
 #include <random>
 #include <string>
 
 using namespace imaging;
 
-namespace imaging {
-
-void PrintTo(ProcessorPath path, std::ostream *out)
-{
-    constexpr const char *kNames[] = {"Plain", "Sse2", "Avx2"};
-    *out << kNames[int(path)];
-}
-
-} // namespace imaging
-
 namespace {
-
-using Bytes = std::vector<std::uint8_t>;
 
 double passed(double tone, double brightness, double contrast)
 {

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "imaging/ColorDiffusion.h"
+
+#include "imaging/BlueNoise.h"
+#include "imaging/DiffusionLine.h"
+
+#include <algorithm>
+
+namespace imaging {
+namespace {
+
+/// Far from the paper's noise, so that the two have nothing to do with each other.
+constexpr std::size_t kRedOffset = kBlueNoiseSide / 2;
+
+int noiseSeed(std::size_t x, std::size_t y)
+{
+    return seedOf(kBlueNoise[y % kBlueNoiseSide][x % kBlueNoiseSide]);
+}
+
+std::uint8_t bitOf(std::size_t x)
+{
+    return std::uint8_t(0x80U >> (x % 8));
+}
+
+} // namespace
+
+ColorDiffusion::ColorDiffusion(std::size_t width, const DiffusionTable &table)
+    : mWidth(width)
+    , mTable(table)
+    , mErrors(width)
+    , mAside(width + 2)
+{
+    for (std::size_t x = 0; x < width; ++x) {
+        mErrors[x] = seed(x, kBlueNoiseSide - 1);
+    }
+}
+
+ColorDiffusion::Amounts ColorDiffusion::seed(std::size_t x, std::size_t y)
+{
+    return {noiseSeed(x, y), noiseSeed(x + kRedOffset, y + kRedOffset)};
+}
+
+void ColorDiffusion::gather()
+{
+    for (std::size_t x = 0; x < mWidth; ++x) {
+        const Amounts aside = mAside[x + 1];
+        mErrors[x] = {std::clamp(mErrors[x].paper + aside.paper, -kErrorLimit, kErrorLimit),
+                      std::clamp(mErrors[x].red + aside.red, -kErrorLimit, kErrorLimit)};
+    }
+    std::fill(mAside.begin(), mAside.end(), Amounts());
+}
+
+/// What is due of paper and red; nothing is due of a colour that the pixel has no share of.
+ColorDiffusion::Amounts ColorDiffusion::due(const Shares &shares, const Amounts &errors)
+{
+    const int paper = shares.paper == 0 ? 0 : shares.paper * 16 + errors.paper;
+    if (shares.red == 0) {
+        return {paper, 0};
+    }
+    return {paper, shares.black() == 0 ? kFull - paper : shares.red * 16 + errors.red};
+}
+
+ColorDiffusion::Dot ColorDiffusion::dotOf(const Amounts &due)
+{
+    const int black = kFull - due.paper - due.red;
+    if (due.paper >= black && due.paper >= due.red) {
+        return Dot::Paper;
+    }
+    return due.red > black ? Dot::Red : Dot::Black;
+}
+
+ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, const Shares &shares,
+                                            std::ptrdiff_t step, Amounts *ahead)
+{
+    const std::uint8_t most = std::max({shares.paper, shares.red, shares.black()});
+    if (most == 255) {
+        *ahead = {};
+        mErrors[x] = seed(x, mRow);
+        return shares.paper == 255 ? Dot::Paper : shares.red == 255 ? Dot::Red : Dot::Black;
+    }
+    const Amounts sum = due(shares, {mErrors[x].paper + ahead->paper, mErrors[x].red + ahead->red});
+    const Dot dot = dotOf(sum);
+    const Amounts error{sum.paper - (dot == Dot::Paper ? kFull : 0),
+                        sum.red - (dot == Dot::Red ? kFull : 0)};
+    const DiffusionWeights weights = mTable[most];
+    *ahead = {(error.paper * weights.ahead) >> 16, (error.red * weights.ahead) >> 16};
+    const Amounts behind{(error.paper * weights.behind) >> 16, (error.red * weights.behind) >> 16};
+    Amounts &aside = mAside[std::size_t(std::ptrdiff_t(x + 1) - step)];
+    aside = {aside.paper + behind.paper, aside.red + behind.red};
+    mErrors[x] = {error.paper - ahead->paper - behind.paper, error.red - ahead->red - behind.red};
+    return dot;
+}
+
+/// Nothing is lost at the seam and at the sides of the page, as in ErrorDiffusion.
+void ColorDiffusion::keepRest(const Amounts &left, const Amounts &right)
+{
+    const auto add = [](Amounts *error, const Amounts &more) {
+        *error = {error->paper + more.paper, error->red + more.red};
+    };
+    const RowOrder order = rowOrder(mRow, mWidth);
+    if (order.seam > 0) {
+        add(&mAside[order.inward ? order.seam : 1], left);
+    }
+    add(&mAside[order.inward ? order.seam + 1 : mWidth], right);
+    add(&mErrors.front(), mAside.front());
+    add(&mErrors.back(), mAside.back());
+}
+
+void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
+                           std::uint8_t *blackInk, std::uint8_t *redInk)
+{
+    if (mWidth == 0) {
+        return;
+    }
+    std::fill(blackInk, blackInk + (mWidth + 7) / 8, std::uint8_t(0));
+    std::fill(redInk, redInk + (mWidth + 7) / 8, std::uint8_t(0));
+    gather();
+    const RowOrder order = rowOrder(mRow, mWidth);
+    const std::size_t rights = mWidth - order.seam;
+    Amounts leftAhead;
+    Amounts rightAhead;
+    const auto pass = [&](std::size_t x, Amounts *ahead) {
+        const Dot dot = diffuse(x, {paper[x], red[x]}, order.step(x), ahead);
+        blackInk[x / 8] |= dot == Dot::Black ? bitOf(x) : std::uint8_t(0);
+        redInk[x / 8] |= dot == Dot::Red ? bitOf(x) : std::uint8_t(0);
+    };
+    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
+        if (i < order.seam) {
+            pass(order.inward ? i : order.seam - 1 - i, &leftAhead);
+        }
+        if (i < rights) {
+            pass(order.inward ? mWidth - 1 - i : order.seam + i, &rightAhead);
+        }
+    }
+    keepRest(leftAhead, rightAhead);
+    ++mRow;
+}
+
+} // namespace imaging

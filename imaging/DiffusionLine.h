@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "imaging/DiffusionWeights.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace imaging {
+
+// Errors are counted in 16ths of a tone.
+constexpr int kFull = 16 * 255;
+constexpr int kHalf = kFull / 2;
+
+/// An error from above is cut to this. Only a picture made to drive errors together gets there.
+constexpr int kErrorLimit = kFull;
+
+/// Stands for a tone that no error can change.
+constexpr int kCertain = 1 << 14;
+
+/// Pixels are taken by the group where that is faster.
+constexpr std::size_t kGroup = 16;
+
+constexpr std::size_t wholeGroups(std::size_t width)
+{
+    return (width + kGroup - 1) / kGroup * kGroup;
+}
+
+/// What the pixel below pure black or white starts with.
+constexpr int seedOf(std::uint8_t noise)
+{
+    return (noise - 128) * 16;
+}
+
+constexpr bool isExtreme(std::uint8_t tone)
+{
+    return tone == 0 || tone == 255;
+}
+
+/// The order in which a row is gone through: the pixels left of the seam and those from it on at
+/// the same time, towards the seam in one row and away from it in the next. Two errors under way
+/// keep the processor busy while one would have it wait.
+struct RowOrder
+{
+    std::size_t seam = 0; ///< A whole number of groups.
+    bool inward = true;
+
+    /// +1 or -1: where the pixel's error is carried to.
+    std::ptrdiff_t step(std::size_t x) const { return (x < seam) == inward ? 1 : -1; }
+};
+
+/// The seam is near the middle and moves from row to row, so that it cannot be seen. A narrow page
+/// has it at its left side: every row is gone through as a whole.
+RowOrder rowOrder(std::size_t row, std::size_t width);
+
+/// One row of error diffusion at work. The arrays have room for whole groups of pixels, and `tones`
+/// is white behind the last pixel; `aside` has one place more on either side.
+struct DiffusionLine
+{
+    std::size_t width = 0;
+    RowOrder order;
+    const std::uint8_t *tones = nullptr;
+    const std::uint8_t *noise = nullptr; ///< The row's blue noise, kBlueNoiseSide of it.
+    const DiffusionTable *table = nullptr;
+    std::int16_t *down = nullptr; ///< What the pixel above leaves to each pixel.
+    std::int16_t *aside = nullptr; ///< What the pixel beside that one leaves, in the next row.
+    std::int16_t *sums = nullptr; ///< Tone and errors together, less the middle: ink if negative.
+    DiffusionWeights *weights = nullptr;
+    std::uint8_t *ink = nullptr;
+};
+
+#if defined(__x86_64__)
+/// Tones and what the row above left, into `sums`.
+void gatherSse2(const DiffusionLine &line);
+
+/// Dots, and the errors that go down, out of `sums` and `weights`.
+void distributeSse2(const DiffusionLine &line);
+
+/// Whether the group's tones are all black or white.
+bool allExtremeSse2(const std::uint8_t *tones);
+#endif
+
+} // namespace imaging
