@@ -12,9 +12,9 @@ namespace {
 /// Far from the paper's noise, so that the two have nothing to do with each other.
 constexpr std::size_t kRedOffset = kBlueNoiseSide / 2;
 
-int noiseSeed(std::size_t x, std::size_t y)
+int noisyStart(std::size_t x, std::size_t y)
 {
-    return seedOf(kBlueNoise[y % kBlueNoiseSide][x % kBlueNoiseSide]);
+    return startOf(kBlueNoise[y % kBlueNoiseSide][x % kBlueNoiseSide]);
 }
 
 std::uint8_t bitOf(std::size_t x)
@@ -31,21 +31,22 @@ ColorDiffusion::ColorDiffusion(std::size_t width, const DiffusionTable &table)
     , mAside(width + 2)
 {
     for (std::size_t x = 0; x < width; ++x) {
-        mErrors[x] = seed(x, kBlueNoiseSide - 1);
+        mErrors[x] = start(x, kBlueNoiseSide - 1);
     }
 }
 
-ColorDiffusion::Amounts ColorDiffusion::seed(std::size_t x, std::size_t y)
+ColorDiffusion::Amounts ColorDiffusion::start(std::size_t x, std::size_t y)
 {
-    return {noiseSeed(x, y), noiseSeed(x + kRedOffset, y + kRedOffset)};
+    return {noisyStart(x, y), noisyStart(x + kRedOffset, y + kRedOffset)};
 }
 
-void ColorDiffusion::gather()
+void ColorDiffusion::gather(const std::uint8_t *paper, const std::uint8_t *red)
 {
     for (std::size_t x = 0; x < mWidth; ++x) {
+        const Amounts down = mErrors[x];
         const Amounts aside = mAside[x + 1];
-        mErrors[x] = {std::clamp(mErrors[x].paper + aside.paper, -kErrorLimit, kErrorLimit),
-                      std::clamp(mErrors[x].red + aside.red, -kErrorLimit, kErrorLimit)};
+        mErrors[x] = {errorFromAbove(down.paper, aside.paper, paper[x]),
+                      errorFromAbove(down.red, aside.red, red[x])};
     }
     std::fill(mAside.begin(), mAside.end(), Amounts());
 }
@@ -75,7 +76,7 @@ ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, const Shares &shares,
     const std::uint8_t most = std::max({shares.paper, shares.red, shares.black()});
     if (most == 255) {
         *ahead = {};
-        mErrors[x] = seed(x, mRow);
+        mErrors[x] = start(x, mRow);
         return shares.paper == 255 ? Dot::Paper : shares.red == 255 ? Dot::Red : Dot::Black;
     }
     const Amounts sum = due(shares, {mErrors[x].paper + ahead->paper, mErrors[x].red + ahead->red});
@@ -114,7 +115,7 @@ void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
     }
     std::fill(blackInk, blackInk + (mWidth + 7) / 8, std::uint8_t(0));
     std::fill(redInk, redInk + (mWidth + 7) / 8, std::uint8_t(0));
-    gather();
+    gather(paper, red);
     const RowOrder order = rowOrder(mRow, mWidth);
     const std::size_t rights = mWidth - order.seam;
     Amounts leftAhead;

@@ -44,9 +44,9 @@ private:
 
     static Amounts due(const Shares &shares, const Amounts &errors);
     static Dot dotOf(const Amounts &due);
-    static Amounts seed(std::size_t x, std::size_t y);
+    static Amounts start(std::size_t x, std::size_t y);
 
-    void gather();
+    void gather(const std::uint8_t *paper, const std::uint8_t *red);
     Dot diffuse(std::size_t x, const Shares &shares, std::ptrdiff_t step, Amounts *ahead);
     void keepRest(const Amounts &left, const Amounts &right);
 

@@ -3,6 +3,7 @@
 
 #include "imaging/DiffusionWeights.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -26,10 +27,27 @@ constexpr std::size_t wholeGroups(std::size_t width)
     return (width + kGroup - 1) / kGroup * kGroup;
 }
 
-/// What the pixel below pure black or white starts with.
-constexpr int seedOf(std::uint8_t noise)
+/// What pure black and white leave below instead of an error is marked: noise around this.
+constexpr int kStart = 1 << 14;
+constexpr int kLeastStart = 3 << 12;
+
+constexpr int startOf(std::uint8_t noise)
 {
-    return (noise - 128) * 16;
+    return kStart + (noise - 128) * 8;
+}
+
+/// The error that comes from above on average in a large area of the tone, as measured: dark tones
+/// owe white, light ones black. An area that begins with it begins with dots, not with a gap.
+constexpr int usualError(int tone)
+{
+    return std::clamp((112 - tone) * 8, 0, 560) - std::clamp((tone - 143) * 8, 0, 560);
+}
+
+/// The error of a pixel of `tone` by what comes from above and from above aside.
+constexpr int errorFromAbove(int down, int aside, int tone)
+{
+    const int straight = down >= kLeastStart ? down - kStart + usualError(tone) : down;
+    return std::clamp(straight + aside, -kErrorLimit, kErrorLimit);
 }
 
 constexpr bool isExtreme(std::uint8_t tone)

@@ -45,10 +45,28 @@ inline __m128i widened(const std::uint8_t *bytes)
                              _mm_setzero_si128());
 }
 
-inline __m128i seeds(const DiffusionLine &line, std::size_t x)
+inline __m128i starts(const DiffusionLine &line, std::size_t x)
 {
     const __m128i noise = widened(line.noise + x % kBlueNoiseSide);
-    return _mm_slli_epi16(_mm_sub_epi16(noise, all(128)), 4);
+    return _mm_add_epi16(_mm_slli_epi16(_mm_sub_epi16(noise, all(128)), 3), all(kStart));
+}
+
+inline __m128i usualErrors(__m128i tones)
+{
+    const auto limited = [](__m128i lanes) {
+        return _mm_min_epi16(_mm_slli_epi16(lanes, 3), all(560));
+    };
+    return _mm_sub_epi16(limited(_mm_subs_epu16(all(112), tones)),
+                         limited(_mm_subs_epu16(tones, all(143))));
+}
+
+inline __m128i errorsFromAbove(__m128i down, __m128i aside, __m128i tones)
+{
+    const __m128i limit = all(kErrorLimit);
+    const __m128i starts = _mm_cmpgt_epi16(down, all(kLeastStart - 1));
+    const __m128i started = _mm_add_epi16(_mm_sub_epi16(down, all(kStart)), usualErrors(tones));
+    const __m128i errors = _mm_adds_epi16(chosen(starts, started, down), aside);
+    return _mm_max_epi16(_mm_min_epi16(errors, limit), _mm_sub_epi16(_mm_setzero_si128(), limit));
 }
 
 struct Parts
@@ -86,14 +104,14 @@ void distribute8(const DiffusionLine &line, std::size_t x, __m128i sum, std::ptr
     const __m128i behind = partOf(error, parts.behind);
     const __m128i down = _mm_sub_epi16(_mm_sub_epi16(error, partOf(error, parts.ahead)), behind);
     store(line.aside + std::ptrdiff_t(x) + back, behind);
-    store(line.down + x, chosen(extreme, seeds(line, x), down));
+    store(line.down + x, chosen(extreme, starts(line, x), down));
 }
 
 /// What black and white leave below.
 void distributeNothing8(const DiffusionLine &line, std::size_t x, std::ptrdiff_t back)
 {
     store(line.aside + std::ptrdiff_t(x) + back, _mm_setzero_si128());
-    store(line.down + x, seeds(line, x));
+    store(line.down + x, starts(line, x));
 }
 
 void distributeGroup(const DiffusionLine &line, std::size_t x, std::ptrdiff_t back)
@@ -123,11 +141,8 @@ bool allExtremeSse2(const std::uint8_t *tones)
 void gatherSse2(const DiffusionLine &line)
 {
     for (std::size_t x = 0; x < line.width; x += 8) {
-        const __m128i limit = all(kErrorLimit);
-        const __m128i errors = _mm_adds_epi16(load(line.down + x), load(line.aside + x));
-        const __m128i error =
-            _mm_max_epi16(_mm_min_epi16(errors, limit), _mm_sub_epi16(_mm_setzero_si128(), limit));
         const __m128i tones = widened(line.tones + x);
+        const __m128i error = errorsFromAbove(load(line.down + x), load(line.aside + x), tones);
         const __m128i grey = _mm_sub_epi16(_mm_slli_epi16(tones, 4), all(kHalf));
         const __m128i sum = _mm_add_epi16(grey, error);
         const __m128i black = _mm_cmpeq_epi16(tones, _mm_setzero_si128());

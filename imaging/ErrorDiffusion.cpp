@@ -12,8 +12,8 @@ namespace {
 void gather(const DiffusionLine &line)
 {
     for (std::size_t x = 0; x < line.width; ++x) {
-        const int error = std::clamp(line.down[x] + line.aside[x], -kErrorLimit, kErrorLimit);
         const int tone = line.tones[x];
+        const int error = errorFromAbove(line.down[x], line.aside[x], tone);
         const int sum = tone == 0 ? -kCertain : tone == 255 ? kCertain : tone * 16 - kHalf + error;
         line.sums[x] = std::int16_t(sum);
     }
@@ -157,7 +157,7 @@ void distribute(const DiffusionLine &line)
         const int sum = line.sums[x];
         line.ink[x / 8] |= std::uint8_t(sum < 0 ? 0x80U >> (x % 8) : 0U);
         if (isExtreme(line.tones[x])) {
-            line.down[x] = std::int16_t(seedOf(line.noise[x % kBlueNoiseSide]));
+            line.down[x] = std::int16_t(startOf(line.noise[x % kBlueNoiseSide]));
             continue;
         }
         const int error = errorOf(sum);
@@ -209,7 +209,7 @@ ErrorDiffusion::ErrorDiffusion(std::size_t width, const DiffusionTable &table)
     , mInk(wholeGroups(width) / 8)
 {
     for (std::size_t x = 0; x < width; ++x) {
-        mDown[x] = std::int16_t(seedOf(kBlueNoise[kBlueNoiseSide - 1][x % kBlueNoiseSide]));
+        mDown[x] = std::int16_t(startOf(kBlueNoise[kBlueNoiseSide - 1][x % kBlueNoiseSide]));
     }
 }
 

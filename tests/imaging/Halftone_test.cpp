@@ -1,0 +1,441 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Pages.h"
+#include "imaging/ErrorDiffusion.h"
+#include "imaging/Separation.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+using namespace imaging;
+
+namespace {
+
+constexpr std::size_t kSide = 256;
+
+PageSettings settingsFor(HalftoneMethod method, ColorMode mode = ColorMode::Monochrome)
+{
+    PageSettings settings;
+    settings.method = method;
+    settings.colorMode = mode;
+    return settings;
+}
+
+Bytes flatDots(HalftoneMethod method, int tone, std::size_t width = kSide,
+               std::size_t height = kSide)
+{
+    return prepared(settingsFor(method), Bytes(width * height, std::uint8_t(tone)), width,
+                    InputFormat::Gray8)
+        .black;
+}
+
+double inkOfTone(int tone)
+{
+    return double(255 - tone) / 255.0;
+}
+
+TEST(Halftone, BinaryInksWhatIsDarkerThanTheMiddle)
+{
+    for (int tone = 0; tone < 256; ++tone) {
+        ASSERT_EQ(inkedPart(flatDots(HalftoneMethod::Binary, tone, 150, 3)), tone < 128 ? 1 : 0);
+    }
+}
+
+TEST(Halftone, BinaryTonesFirst)
+{
+    PageSettings settings = settingsFor(HalftoneMethod::Binary);
+    settings.brightness = 4; // 25.5 of 255
+    EXPECT_EQ(prepared(settings, {101, 102, 103}, 3, InputFormat::Gray8).black, (Bytes{1, 0, 0}));
+    settings.brightness = 20;
+    EXPECT_EQ(prepared(settings, {0, 1, 255}, 3, InputFormat::Gray8).black, (Bytes{0, 0, 0}));
+    settings.brightness = -20;
+    EXPECT_EQ(prepared(settings, {0, 254, 255}, 3, InputFormat::Gray8).black, (Bytes{1, 1, 0}));
+}
+
+TEST(Halftone, DitherInksEachTonesShareToTheDot)
+{
+    for (int tone = 0; tone < 256; ++tone) {
+        // Four times the matrix, and in each of them at most one dot more or less.
+        ASSERT_NEAR(inkedPart(flatDots(HalftoneMethod::Dither, tone)), inkOfTone(tone), 1.0 / 16384)
+            << tone;
+    }
+}
+
+TEST(Halftone, DiffusionInksEachTonesShare)
+{
+    for (int tone = 0; tone < 256; ++tone) {
+        // What is not printed yet at the end is at most half a dot a column.
+        ASSERT_NEAR(inkedPart(flatDots(HalftoneMethod::ErrorDiffusion, tone)), inkOfTone(tone),
+                    0.5 / double(kSide))
+            << tone;
+    }
+}
+
+TEST(Halftone, EachMethodInksTheTonedShare)
+{
+    PageSettings settings;
+    settings.brightness = -7;
+    settings.contrast = 12;
+    for (const HalftoneMethod method : {HalftoneMethod::Dither, HalftoneMethod::ErrorDiffusion}) {
+        settings.method = method;
+        for (int value = 0; value < 256; value += 15) {
+            const double tone = (value / 255.0 - 7.0 / 40.0 - 0.5) * (1.0 + 12.0 / 40.0) + 0.5;
+            const Dots dots = prepared(settings, Bytes(kSide * kSide, std::uint8_t(value)), kSide,
+                                       InputFormat::Gray8);
+            ASSERT_NEAR(inkedPart(dots.black), 1.0 - std::clamp(tone, 0.0, 1.0), 0.004) << value;
+        }
+    }
+}
+
+/// The part inked of each column, of rows [from, to).
+std::vector<double> inkOfColumns(const Bytes &dots, std::size_t width, std::size_t from,
+                                 std::size_t to)
+{
+    std::vector<double> parts(width);
+    for (std::size_t y = from; y < to; ++y) {
+        for (std::size_t x = 0; x < width; ++x) {
+            parts[x] += dots[y * width + x] / double(to - from);
+        }
+    }
+    return parts;
+}
+
+TEST(Halftone, DiffusionBeginsWithDotsAtTheTopOfThePage)
+{
+    for (const int tone : {5, 15, 128, 240, 250}) {
+        const Bytes dots = flatDots(HalftoneMethod::ErrorDiffusion, tone, 2048, 16);
+        const std::span first = std::span(dots).first(2048 * 8);
+        const double rare = std::min(inkOfTone(tone), 1.0 - inkOfTone(tone));
+        EXPECT_NEAR(inkedPart(first), inkOfTone(tone), rare * 0.2) << tone;
+    }
+}
+
+TEST(Halftone, DiffusionBeginsWithDotsBelowWhite)
+{
+    for (const int tone : {15, 128, 240}) {
+        const std::size_t width = 2048;
+        Bytes page(width * 20, 255);
+        page.resize(width * 28, std::uint8_t(tone));
+        const Dots dots =
+            prepared(settingsFor(HalftoneMethod::ErrorDiffusion), page, width, InputFormat::Gray8);
+        const std::span grey = std::span(dots.black).subspan(width * 20);
+        const double rare = std::min(inkOfTone(tone), 1.0 - inkOfTone(tone));
+        EXPECT_NEAR(inkedPart(grey), inkOfTone(tone), rare * 0.2) << tone;
+    }
+}
+
+TEST(Halftone, DiffusionKeepsToneAtTheSidesAndWhereTheWaysMeet)
+{
+    // The ways through a row meet within an eighth of the width around the middle.
+    const std::size_t width = 512;
+    const std::size_t height = 2048;
+    for (const int tone : {32, 100, 128, 200, 240}) {
+        const Bytes dots = flatDots(HalftoneMethod::ErrorDiffusion, tone, width, height);
+        const std::vector<double> columns = inkOfColumns(dots, width, 0, height);
+        for (std::size_t x = 0; x < width; x += 4) {
+            const double strip =
+                (columns[x] + columns[x + 1] + columns[x + 2] + columns[x + 3]) / 4;
+            ASSERT_NEAR(strip, inkOfTone(tone), 0.02) << tone << " at " << x;
+        }
+    }
+}
+
+TEST(Halftone, ASmallGreyAreaOnWhiteHasItsTone)
+{
+    const std::size_t width = 640;
+    for (const int tone : {60, 128, 200}) {
+        Bytes page(width * 640, 255);
+        for (std::size_t i = 0; i < page.size(); ++i) {
+            const bool inside = i % width % 16 < 8 && i / width % 16 < 8;
+            page[i] = inside ? std::uint8_t(tone) : page[i];
+        }
+        const Dots dots =
+            prepared(settingsFor(HalftoneMethod::ErrorDiffusion), page, width, InputFormat::Gray8);
+        EXPECT_NEAR(inkedPart(dots.black) * 4.0, inkOfTone(tone), 0.03) << tone;
+    }
+}
+
+/// Error diffusion with one set of weights for all tones (R. W. Floyd, L. Steinberg, 1976), rows in
+/// turns from the left and from the right; to compare with.
+Bytes classicDots(int tone)
+{
+    std::vector<double> errors(kSide + 2);
+    Bytes dots(kSide * kSide);
+    for (std::size_t y = 0; y < kSide; ++y) {
+        std::vector<double> next(kSide + 2);
+        const int step = y % 2 == 0 ? 1 : -1;
+        int x = step > 0 ? 0 : int(kSide) - 1;
+        for (std::size_t i = 0; i < kSide; ++i, x += step) {
+            const double sum = tone + errors[std::size_t(x + 1)];
+            dots[y * kSide + std::size_t(x)] = sum < 127.5 ? 1 : 0;
+            const double error = sum - (sum < 127.5 ? 0.0 : 255.0);
+            errors[std::size_t(x + 1 + step)] += error * 7.0 / 16.0;
+            next[std::size_t(x + 1 - step)] += error * 3.0 / 16.0;
+            next[std::size_t(x + 1)] += error * 5.0 / 16.0;
+            next[std::size_t(x + 1 + step)] += error * 1.0 / 16.0;
+        }
+        errors = next;
+    }
+    return dots;
+}
+
+/// Each place with its surroundings, near ones counting most: `weights` from the middle outwards.
+std::vector<double> blurred(const std::vector<double> &ink, const std::vector<double> &weights,
+                            std::size_t stride)
+{
+    std::vector<double> sums(ink.size());
+    const std::size_t reach = (weights.size() - 1) * stride;
+    for (std::size_t i = reach; i + reach < ink.size(); ++i) {
+        sums[i] = ink[i] * weights[0];
+        for (std::size_t k = 1; k < weights.size(); ++k) {
+            sums[i] += (ink[i - k * stride] + ink[i + k * stride]) * weights[k];
+        }
+    }
+    return sums;
+}
+
+/// How uneven dots look from a distance: the root mean square by which they differ from their tone
+/// under a blur of `width` dots. Without the first rows.
+double unevenness(const Bytes &dots, int tone, double width)
+{
+    const auto reach = std::size_t(std::ceil(3.0 * width));
+    std::vector<double> weights;
+    double sum = 0.0;
+    for (std::size_t i = 0; i <= reach; ++i) {
+        weights.push_back(std::exp(-double(i * i) / (2.0 * width * width)));
+        sum += weights.back() * (i == 0 ? 1.0 : 2.0);
+    }
+    for (double &weight : weights) {
+        weight /= sum;
+    }
+    const std::vector<double> ink(dots.begin(), dots.end());
+    const std::vector<double> soft = blurred(blurred(ink, weights, 1), weights, kSide);
+    double squares = 0.0;
+    std::size_t count = 0;
+    for (std::size_t y = 32 + reach; y + reach < kSide; ++y) {
+        for (std::size_t x = reach; x + reach < kSide; ++x, ++count) {
+            const double error = soft[y * kSide + x] - inkOfTone(tone);
+            squares += error * error;
+        }
+    }
+    return std::sqrt(squares / double(count));
+}
+
+TEST(Halftone, DiffusionIsMoreEvenThanWithOneSetOfWeights)
+{
+    for (const double width : {1.5, 3.0}) {
+        double here = 0.0;
+        double classic = 0.0;
+        for (int tone = 5; tone < 255; tone += 10) {
+            here += unevenness(flatDots(HalftoneMethod::ErrorDiffusion, tone), tone, width);
+            classic += unevenness(classicDots(tone), tone, width);
+        }
+        EXPECT_LT(here, classic * 0.9) << width;
+    }
+}
+
+TEST(Halftone, DiffusionWeightsLeaveNothingNegativeAndNothingToPureTones)
+{
+    const DiffusionTable &table = diffusionTable();
+    for (std::size_t tone = 1; tone < 255; ++tone) {
+        EXPECT_GT(table[tone].ahead, 0);
+        EXPECT_LE(table[tone].ahead + table[tone].behind, 65536) << tone;
+        // More would let errors grow beyond the room for them.
+        EXPECT_LE(table[tone].ahead, 45875) << tone;
+        EXPECT_LT(table[tone].behind, 32768) << tone;
+        EXPECT_EQ(table[tone].ahead, table[255 - tone].ahead);
+        EXPECT_EQ(table[tone].behind, table[255 - tone].behind);
+    }
+    for (const std::size_t tone : {0U, 255U}) {
+        EXPECT_EQ(table[tone].ahead, 0);
+        EXPECT_EQ(table[tone].behind, 0);
+    }
+}
+
+TEST(Halftone, ErrorsThatAreDrivenTogetherStayWithinBounds)
+{
+    // Tones with the most unlike weights side by side, in stripes, checks and noise.
+    std::mt19937 random(7);
+    const std::size_t width = 200;
+    for (int round = 0; round < 40; ++round) {
+        const std::array<int, 4> tones{1 + int(random() % 10), 245 + int(random() % 10),
+                                       80 + int(random() % 90), int(random() % 256)};
+        Bytes page;
+        for (std::size_t i = 0; i < width * 200; ++i) {
+            const std::size_t choice = round % 2 == 0 ? (i % width + i / width) : random();
+            page.push_back(std::uint8_t(tones[choice % (2 + std::size_t(round) % 3)]));
+        }
+        const PageSettings settings = settingsFor(HalftoneMethod::ErrorDiffusion);
+        const Dots plain =
+            prepared(settings, page, width, InputFormat::Gray8, ProcessorPath::Plain);
+        const Dots fast = prepared(settings, page, width, InputFormat::Gray8);
+        ASSERT_EQ(plain.black, fast.black);
+        double expected = 0.0;
+        for (const std::uint8_t tone : page) {
+            expected += inkOfTone(tone) / double(page.size());
+        }
+        ASSERT_NEAR(inkedPart(plain.black), expected, 0.02);
+    }
+}
+
+struct Flat
+{
+    int red;
+    int green;
+    int blue;
+};
+
+constexpr Flat kFlats[] = {{255, 0, 0},     {128, 0, 0},     {200, 30, 40}, {255, 128, 128},
+                           {240, 200, 190}, {120, 80, 70},   {0, 0, 255},   {0, 160, 60},
+                           {90, 90, 90},    {250, 250, 250}, {255, 165, 0}, {60, 20, 10}};
+
+class TwoColors : public testing::TestWithParam<HalftoneMethod>
+{
+protected:
+    Dots dotsOf(const Bytes &rgb, int level, std::size_t width = kSide) const
+    {
+        PageSettings settings = settingsFor(GetParam(), ColorMode::BlackRed);
+        settings.redLevel = level;
+        return prepared(settings, rgb, width, InputFormat::Rgb24);
+    }
+
+    Dots dotsOf(const Flat &flat, int level) const
+    {
+        return dotsOf(pixelsOf({flat.red, flat.green, flat.blue}, kSide * kSide), level);
+    }
+};
+
+TEST_P(TwoColors, FlatColorsGetTheirSharesOfBlackAndRed)
+{
+    for (const Flat &flat : kFlats) {
+        for (const int level : {-20, -8, 0, 8, 20}) {
+            const Shares shares = sharesOf(unsigned(flat.red), unsigned(flat.green),
+                                           unsigned(flat.blue), redBorder(level));
+            double black = shares.black() / 255.0;
+            double red = shares.red / 255.0;
+            if (GetParam() == HalftoneMethod::Binary) {
+                const bool ink = shares.paper < 128;
+                red = ink && shares.red > shares.black() ? 1.0 : 0.0;
+                black = ink ? 1.0 - red : 0.0;
+            }
+            const Dots dots = dotsOf(flat, level);
+            ASSERT_NEAR(inkedPart(dots.black), black, 0.5 / double(kSide))
+                << flat.red << ' ' << flat.green << ' ' << flat.blue << " at " << level;
+            ASSERT_NEAR(inkedPart(dots.red), red, 0.5 / double(kSide))
+                << flat.red << ' ' << flat.green << ' ' << flat.blue << " at " << level;
+        }
+    }
+}
+
+/// 32768 colours in 181 rows: all of 5 bits each.
+Bytes manyColors()
+{
+    Bytes rgb;
+    for (int i = 0; i < 181 * 182; ++i) {
+        for (const int shift : {10, 5, 0}) {
+            const int step = (i >> shift) & 31;
+            rgb.push_back(std::uint8_t(step * 255 / 31));
+        }
+    }
+    return rgb;
+}
+
+TEST_P(TwoColors, TheLowestLevelHasNoRed)
+{
+    EXPECT_EQ(inkedPart(dotsOf(manyColors(), -20, 182).red), 0.0);
+}
+
+TEST_P(TwoColors, PureRedIsRedAndPureBlackBlackAtEveryOtherLevel)
+{
+    for (int level = -19; level <= 20; ++level) {
+        ASSERT_EQ(inkedPart(dotsOf(pixelsOf({255, 0, 0}, 900), level, 30).red), 1.0) << level;
+        ASSERT_EQ(inkedPart(dotsOf(pixelsOf({0, 0, 0}, 900), level, 30).black), 1.0) << level;
+    }
+}
+
+TEST_P(TwoColors, GreysHaveNoRedNextToARedPictureToo)
+{
+    std::mt19937 random(99);
+    const std::size_t width = 300;
+    Bytes rgb;
+    for (std::size_t i = 0; i < width * 200; ++i) {
+        const bool grey = i / width % 50 > 30 || i % width % 100 > 60;
+        const auto value = std::uint8_t(random());
+        const auto other = std::uint8_t(grey ? value : random() % 100);
+        rgb.insert(rgb.end(), {value, other, other});
+    }
+    const Dots dots = dotsOf(rgb, 20, width);
+    std::size_t reds = 0;
+    for (std::size_t i = 0; i < dots.red.size(); ++i) {
+        const bool neutral = rgb[i * 3] == rgb[i * 3 + 1];
+        ASSERT_FALSE(neutral && dots.red[i] == 1) << i;
+        reds += dots.red[i];
+    }
+    EXPECT_GT(reds, 1000U);
+}
+
+std::string nameOf(const testing::TestParamInfo<HalftoneMethod> &method)
+{
+    return testing::PrintToString(method.param);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, TwoColors,
+                         testing::Values(HalftoneMethod::Binary, HalftoneMethod::Dither,
+                                         HalftoneMethod::ErrorDiffusion),
+                         nameOf);
+
+/// The methods that decide each pixel by itself.
+class TwoColorsByPlace : public TwoColors
+{ };
+
+TEST_P(TwoColorsByPlace, ARedPixelStaysRedAtEveryHigherLevelAndWhiteStaysWhite)
+{
+    const Bytes colors = manyColors();
+    Dots before = dotsOf(colors, -20, 182);
+    for (int level = -19; level <= 20; ++level) {
+        const Dots dots = dotsOf(colors, level, 182);
+        for (std::size_t i = 0; i < dots.red.size(); ++i) {
+            ASSERT_GE(dots.red[i], before.red[i]) << i << " at " << level;
+            ASSERT_EQ(dots.red[i] + dots.black[i], before.red[i] + before.black[i]) << i;
+        }
+        before = dots;
+    }
+    EXPECT_GT(inkedPart(before.red), 0.1);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, TwoColorsByPlace,
+                         testing::Values(HalftoneMethod::Binary, HalftoneMethod::Dither), nameOf);
+
+TEST(TwoColorDiffusion, AHigherLevelNeverHasLessRed)
+{
+    for (const Flat &flat : kFlats) {
+        const Bytes rgb = pixelsOf({flat.red, flat.green, flat.blue}, 128 * 128);
+        double before = 0.0;
+        for (int level = -20; level <= 20; ++level) {
+            PageSettings settings =
+                settingsFor(HalftoneMethod::ErrorDiffusion, ColorMode::BlackRed);
+            settings.redLevel = level;
+            const double red = inkedPart(prepared(settings, rgb, 128, InputFormat::Rgb24).red);
+            ASSERT_GE(red, before - 0.5 / 128) << flat.red << ' ' << flat.green << " at " << level;
+            before = red;
+        }
+    }
+}
+
+TEST(TwoColorDiffusion, NoPixelTakesAColorItHasNoShareOf)
+{
+    const Bytes pink = pixelsOf({255, 180, 180}, 200 * 100);
+    const PageSettings settings = settingsFor(HalftoneMethod::ErrorDiffusion, ColorMode::BlackRed);
+    // The first 20 rows are dark, so that black is due below.
+    Bytes rgb = pixelsOf({60, 50, 50}, 200 * 20);
+    rgb.insert(rgb.end(), pink.begin(), pink.end());
+    PageSettings redder = settings;
+    redder.redLevel = 20;
+    ASSERT_EQ(sharesOf(255, 180, 180, redBorder(20)).black(), 0);
+    const Dots dots = prepared(redder, rgb, 200, InputFormat::Rgb24);
+    EXPECT_EQ(inkedPart(std::span(dots.black).subspan(200 * 20)), 0.0);
+    EXPECT_GT(inkedPart(std::span(dots.red).subspan(200 * 20)), 0.1);
+}
+
+} // namespace
