@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "filter/FilterRoutes.h"
+
+#include <sstream>
+
+namespace filter {
+
+namespace {
+
+/// "type cost program" or "type type cost program"; the program may have "maxsize(...)" before it.
+FilterRoute routeOf(const std::string &text)
+{
+    std::istringstream words(text);
+    FilterRoute route;
+    words >> route.type;
+    while (words >> route.program) { }
+    return route;
+}
+
+std::vector<FilterRoute> routesOfAttribute(ppd_file_t *ppd, const char *keyword)
+{
+    std::vector<FilterRoute> routes;
+    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute;
+         attribute = ppdFindNextAttr(ppd, keyword, nullptr)) {
+        routes.push_back(routeOf(attribute->value ? attribute->value : ""));
+    }
+    return routes;
+}
+
+} // namespace
+
+std::vector<FilterRoute> filterRoutes(ppd_file_t *ppd)
+{
+    std::vector<FilterRoute> routes = routesOfAttribute(ppd, "cupsFilter2");
+    if (routes.empty()) {
+        for (int i = 0; i < ppd->num_filters; ++i) {
+            routes.push_back(routeOf(ppd->filters[i]));
+        }
+    }
+    return routes;
+}
+
+std::vector<FilterRoute> preFilterRoutes(ppd_file_t *ppd)
+{
+    return routesOfAttribute(ppd, "cupsPreFilter");
+}
+
+} // namespace filter
