@@ -36,9 +36,8 @@ void writeDump(const QString &folder, const QString &name, const QByteArray &dat
     }
     const QByteArray from = QFile::encodeName(temporary.fileName());
     const QByteArray to = QFile::encodeName(folder + file);
-    if (std::rename(from.constData(), to.constData()) == 0) {
-        temporary.setAutoRemove(false);
-    }
+    // Where this fails, the temporary file goes with its owner.
+    std::rename(from.constData(), to.constData());
 }
 
 } // namespace diagnostics

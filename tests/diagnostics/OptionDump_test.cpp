@@ -132,6 +132,18 @@ TEST(OptionDump, TextsAreInTheSystemEncoding)
     EXPECT_EQ(lines.at(4), "***** text | café");
 }
 
+TEST(OptionDump, NumberOfChoicesCountsNotTheirRecords)
+{
+    const TestPpd ppd = contrastPpd();
+    ppd_option_t *option = ppd.option("CvContrast");
+    const int former = option->num_choices;
+    option->num_choices = 0;
+    const auto lines = dumpOf(ppd, "CvContrast");
+    option->num_choices = former;
+    ASSERT_EQ(lines.size(), 13U);
+    EXPECT_EQ(lines.at(10), "***** choices->choice | (null)");
+}
+
 TEST(OptionDump, OptionWithoutChoices)
 {
     const auto lines =

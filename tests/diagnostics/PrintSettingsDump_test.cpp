@@ -96,7 +96,7 @@ TEST_F(PrintSettingsDump, NamesOfOtherFoldersAreRefused)
     QDir(folder.path()).mkdir(QStringLiteral("CvPDE_a"));
     _PDELog_PMPrintSettings_WriteToFile(&settings, "a/b");
     _PDELog_PMPrintSettings_WriteToFile(&settings, "x/../../y");
-    writeDump(folder.path(), QStringLiteral("a\0b").left(3), kXml);
+    writeDump(folder.path(), QStringLiteral("z\0b"), kXml);
     EXPECT_EQ(files(), QStringList{QStringLiteral("CvPDE_a")});
     EXPECT_TRUE(QDir(path("CvPDE_a")).isEmpty());
 }

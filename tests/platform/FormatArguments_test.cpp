@@ -137,6 +137,12 @@ TEST(FormatArgumentsFetching, TextWithPrecisionNeedNotBeTerminated)
     EXPECT_EQ(filled("%1$.*2$s", bytes.data(), 2), text("ab"));
 }
 
+TEST(FormatArgumentsFetching, NothingIsReadBehindThePrecision)
+{
+    EXPECT_EQ(fetched("%.3s %.*S %.1ls", "abcdef", 2, u"abc", L"ab"),
+              (FormatArguments{text("abc"), qint64(2), text("ab"), text("a")}));
+}
+
 TEST(FormatArgumentsFetching, NegativePrecisionReadsToTheEnd)
 {
     EXPECT_EQ(filled("%.*s", -1, "abcdef"), text("abcdef"));
