@@ -88,15 +88,13 @@ ExitCode Application::start()
     if (mLine.listPrinters) {
         return listPrinters();
     }
-    if (!mLine.document.isEmpty()) {
-        const auto document = DocumentPages::open(mLine.document);
-        if (document) {
-            mDocument = document.value();
-        } else if (mLine.noDialog || !mLine.screenshot.isEmpty()) {
-            complain(document.failure());
-            return exitCodeOf(document.failure().kind);
-        } else {
-            mComplaints.push_back(document.failure());
+    for (const std::optional<Failure> &failure : {openDocument(), openTicket()}) {
+        if (failure && (mLine.noDialog || !mLine.screenshot.isEmpty())) {
+            complain(*failure);
+            return exitCodeOf(failure->kind);
+        }
+        if (failure) {
+            mComplaints.push_back(*failure);
         }
     }
     loadPlugIns();
@@ -104,6 +102,32 @@ ExitCode Application::start()
         complain(failure);
     }
     return mLine.noDialog ? printAtOnce() : showDialog();
+}
+
+std::optional<Failure> Application::openDocument()
+{
+    if (mLine.document.isEmpty()) {
+        return {};
+    }
+    const auto document = DocumentPages::open(mLine.document);
+    if (!document) {
+        return document.failure();
+    }
+    mDocument = document.value();
+    return {};
+}
+
+std::optional<Failure> Application::openTicket()
+{
+    if (mLine.ticket.isEmpty()) {
+        return {};
+    }
+    const Result<ExtendedTicket> ticket = ExtendedTicket::open(mLine.ticket);
+    if (!ticket) {
+        return ticket.failure();
+    }
+    mTicket = ticket.value();
+    return {};
 }
 
 ExitCode Application::listPrinters()
@@ -218,6 +242,7 @@ ExitCode Application::printAtOnce()
     }
     PrintController controller(mServer, mPlugIns, folder(), PanelSet::Views::None);
     controller.setWishes(mLine.choices);
+    controller.setTicket(mTicket);
     return BatchPrint(controller).run(printer.value(), job, *mDocument);
 }
 
@@ -225,6 +250,7 @@ ExitCode Application::showDialog()
 {
     PrintController controller(mServer, mPlugIns, folder(), PanelSet::Views::Made);
     controller.setWishes(mLine.choices);
+    controller.setTicket(mTicket);
     PrinterList printers(mServer);
     DialogRun run(controller, printers);
     PrintDialog &window = run.window();

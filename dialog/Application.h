@@ -4,6 +4,7 @@
 #include "dialog/CommandLine.h"
 #include "dialog/CupsServer.h"
 #include "dialog/DocumentPages.h"
+#include "dialog/ExtendedTicket.h"
 #include "dialog/PrintController.h"
 #include "loading/Refusal.h"
 
@@ -31,6 +32,8 @@ private:
     ExitCode printAtOnce();
     ExitCode showDialog();
 
+    std::optional<Failure> openDocument();
+    std::optional<Failure> openTicket();
     void loadPlugIns();
     void complainLater(const loading::Refusal &refusal);
     PrintController::Folder folder() const;
@@ -41,6 +44,7 @@ private:
     CommandLine mLine;
     std::shared_ptr<CupsServer> mServer;
     std::shared_ptr<const DocumentPages> mDocument;
+    ExtendedTicket mTicket;
     PlugIns mPlugIns;
     std::vector<Failure> mComplaints;
 };

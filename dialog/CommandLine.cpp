@@ -55,6 +55,9 @@ void CommandLineReader::addOptions(QCommandLineParser &parser)
         {QStringLiteral("copies"), tr("Print <number> copies."), tr("number")},
         {QStringLiteral("pages"), tr("Print these pages only, for example 1-3,5."), tr("pages")},
         {QStringLiteral("plugin"), tr("Look for panels in <folder> first."), tr("folder")},
+        {QStringLiteral("ticket"),
+         tr("Start with the label, the colours and what else the print ticket in <file> holds."),
+         tr("file")},
         {QStringLiteral("no-dialog"), tr("Print at once, without showing the dialog.")},
         {QStringLiteral("list-printers"), tr("List the printers and stop.")},
         {QStringLiteral("screenshot"), tr("Save a picture of the dialog in <file> and stop."),
@@ -115,11 +118,9 @@ Result<CommandLine> CommandLineReader::take(const QCommandLineParser &parser)
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
 
     const std::pair<const char *, QString CommandLine::*> texts[] = {
-        {"printer", &CommandLine::printer},
-        {"ppd", &CommandLine::ppdFile},
-        {"output", &CommandLine::outputFolder},
-        {"plugin", &CommandLine::plugIn},
-        {"screenshot", &CommandLine::screenshot}};
+        {"printer", &CommandLine::printer},     {"ppd", &CommandLine::ppdFile},
+        {"output", &CommandLine::outputFolder}, {"plugin", &CommandLine::plugIn},
+        {"ticket", &CommandLine::ticket},       {"screenshot", &CommandLine::screenshot}};
     for (const auto &[name, field] : texts) {
         const QString option = QLatin1String(name);
         line.*field = parser.value(option);

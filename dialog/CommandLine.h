@@ -37,6 +37,7 @@ struct CommandLine
     QString ppdFile;
     QString outputFolder;
     QString plugIn;
+    QString ticket;
     QString screenshot;
     OptionChoices choices;
     std::optional<int> copies;

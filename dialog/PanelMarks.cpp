@@ -7,9 +7,10 @@
 
 namespace dialog {
 
-PanelMarks::PanelMarks(const HostedJob &job, Report report)
+PanelMarks::PanelMarks(const HostedJob &job, Report report, std::function<void()> marked)
     : mJob(job)
     , mReport(std::move(report))
+    , mMarked(std::move(marked))
     , mOptions(job.ppd ? job.ppd->options() : QStringList())
 {
     for (const QString &option : std::as_const(mOptions)) {
@@ -35,6 +36,9 @@ bool PanelMarks::mark(const QString &option, const QString &choice)
     const bool changed = mJob.ppd->mark(key, choice);
     mAtOnce += changed && mReporting ? 1 : 0;
     keep(key, choice);
+    if (mMarked) {
+        mMarked();
+    }
     if (changed) {
         report({key, choice});
     }

@@ -25,7 +25,9 @@ public:
 
     using Report = std::function<void(const OptionChoice &)>;
 
-    PanelMarks(const HostedJob &job, Report report);
+    /// `marked` is called after each mark, before anybody hears of it: what else of the job follows
+    /// the marks is brought up to date there.
+    PanelMarks(const HostedJob &job, Report report, std::function<void()> marked = {});
 
     /// The option as the PPD spells it; empty when it has none of that name, in any letters.
     QString spelling(const QString &option) const;
@@ -48,6 +50,7 @@ private:
 
     HostedJob mJob;
     Report mReport;
+    std::function<void()> mMarked;
     QStringList mOptions;
     QHash<QString, QString> mSpellings;
     std::deque<OptionChoice> mChanges;

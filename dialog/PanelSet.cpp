@@ -12,7 +12,8 @@ namespace dialog {
 
 PanelSet::PanelSet(PlugIns plugIns, const HostedJob &job, QObject *parent)
     : QObject(parent)
-    , mMarks(job, [this](const OptionChoice &change) { tellAll(change); })
+    , mMarks(
+          job, [this](const OptionChoice &change) { tellAll(change); }, [this] { Q_EMIT marked(); })
     , mPlugIns(std::move(plugIns))
 {
     for (std::size_t i = 0; i < mPlugIns.size(); ++i) {

@@ -77,6 +77,9 @@ public:
 Q_SIGNALS:
     /// Comes in the middle of a call into a panel: hide the panel's view, but delete nothing.
     void failed(const dialog::Failure &failure);
+    /// A choice was marked; no panel has heard of it yet.
+    void marked();
+    /// All panels have heard of it.
     void choiceMarked(const QString &option, const QString &choice);
     /// A panel's view has a new size.
     void viewResized();

@@ -3,7 +3,16 @@
 
 #include "dialog/FolderPrinter.h"
 
+#include <algorithm>
+
 namespace dialog {
+namespace {
+
+const QString kPageSize = QStringLiteral("PageSize");
+/// The name of any size of the user's own.
+const QString kSizeWithoutNumbers = QStringLiteral("Custom");
+
+} // namespace
 
 PrintController::PrintController(std::shared_ptr<CupsServer> server, PlugIns plugIns, Folder folder,
                                  PanelSet::Views views)
@@ -55,15 +64,60 @@ void PrintController::chooseFolder()
 
 void PrintController::makeSetup(std::shared_ptr<PpdFile> ppd)
 {
-    mSetup = std::make_unique<PrinterSetup>(mPrinter, std::move(ppd), mJob, mPlugIns);
+    mSetup = std::make_unique<PrinterSetup>(mPrinter, std::move(ppd), mJob, mPlugIns, mTicket);
     connect(&mSetup->panels(), &PanelSet::failed, this, &PrintController::complained);
-    for (const OptionChoice &wish : mWishes) {
-        if (const std::optional<Failure> failure = mSetup->choose({wish})) {
+    OptionChoices wishes = wishesFor(mSetup->ppd());
+    std::erase_if(wishes, [this](const OptionChoice &wish) {
+        const std::optional<Failure> failure = mSetup->choose({wish});
+        if (failure) {
             Q_EMIT complained(*failure);
         }
-    }
+        return failure.has_value();
+    });
     mSetup->start(mViews);
+    complainOfOtherChoices(wishes);
     Q_EMIT setupReady();
+}
+
+OptionChoices PrintController::wishesFor(const PpdFile *ppd) const
+{
+    OptionChoices wishes;
+    const auto add = [&](const QString &option, const QString &choice) {
+        const auto sameOption = [&option](const OptionChoice &wish) {
+            return wish.option.compare(option, Qt::CaseInsensitive) == 0;
+        };
+        if (std::none_of(mWishes.begin(), mWishes.end(), sameOption)) {
+            wishes.push_back({option, choice});
+        }
+    };
+    if (ppd && mTicket.paperName() && ppd->hasOption(kPageSize)
+        && *mTicket.paperName() != kSizeWithoutNumbers) {
+        add(kPageSize, *mTicket.paperName());
+    }
+    if (ppd && mTicket.colourMode() == ColourMode::BlackAndRed) {
+        add(kColourOption, kBlackAndRedChoice);
+    } else if (ppd && mTicket.colourMode() && ppd->hasOption(kColourOption)) {
+        add(kColourOption, kBlackChoice);
+    }
+    wishes.insert(wishes.end(), mWishes.begin(), mWishes.end());
+    return wishes;
+}
+
+void PrintController::complainOfOtherChoices(const OptionChoices &wishes)
+{
+    const QStringList claimed = mSetup->panels().claimedOptions();
+    for (const OptionChoice &wish : wishes) {
+        if (!claimed.contains(wish.option, Qt::CaseInsensitive)) {
+            continue;
+        }
+        const std::optional<QString> marked = mSetup->ppd()->markedChoice(wish.option);
+        if (marked && marked->compare(wish.choice, Qt::CaseInsensitive) != 0) {
+            Q_EMIT complained({FailureKind::Settings,
+                               wish.option + QStringLiteral("=") + wish.choice,
+                               tr("the panel starts with \"%1\"; choose it there")
+                                   .arg(mSetup->ppd()->choiceTitle(wish.option, *marked))});
+        }
+    }
 }
 
 void PrintController::dropSetup()

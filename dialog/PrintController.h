@@ -35,6 +35,10 @@ public:
     /// Choices to start every printer with, as far as it has them.
     void setWishes(const OptionChoices &wishes) { mWishes = wishes; }
 
+    /// The ticket to start every printer with. Its label and colour mode are wishes, too; choices
+    /// wished for by name go before them.
+    void setTicket(const ExtendedTicket &ticket) { mTicket = ticket; }
+
     /// Makes a setup for `printer`; `job` gives title, copies, pages and scaling. setupReady or
     /// setupFailed follows, for a queue after the server has answered. The setup before it is gone
     /// then.
@@ -71,6 +75,8 @@ Q_SIGNALS:
 private:
     void chooseFolder();
     void makeSetup(std::shared_ptr<PpdFile> ppd);
+    OptionChoices wishesFor(const PpdFile *ppd) const;
+    void complainOfOtherChoices(const OptionChoices &wishes);
     void dropSetup();
     void printToFolder(const PrintJob &job);
 
@@ -78,6 +84,7 @@ private:
     Folder mFolder;
     PanelSet::Views mViews;
     OptionChoices mWishes;
+    ExtendedTicket mTicket;
     Printer mPrinter;
     JobSettings mJob;
     PpdFetcher mFetcher;

@@ -21,23 +21,25 @@ std::shared_ptr<JobSettings> settingsFor(const JobSettings &job)
 } // namespace
 
 PrinterSetup::PrinterSetup(const Printer &printer, std::shared_ptr<PpdFile> ppd,
-                           const JobSettings &job, const PlugIns &plugIns)
+                           const JobSettings &job, const PlugIns &plugIns,
+                           const ExtendedTicket &ticket)
     : mPrinter(printer)
     , mPageFormat(std::make_shared<JobPageFormat>())
     , mJob{std::move(ppd), settingsFor(job), std::make_shared<JobSession>(), mPageFormat,
            std::make_shared<JobPrinter>(printer.deviceUri)}
+    , mTicket(ticket)
     , mPanels(plugIns, mJob)
 {
-    takeMarkedSize();
+    followMarks();
+    connect(&mPanels, &PanelSet::marked, this, &PrinterSetup::followMarks);
     connect(&mPanels, &PanelSet::choiceMarked, this,
             [this](const QString &option, const QString &choice) {
                 mLatest = {option, choice};
-                takeMarkedSize();
                 Q_EMIT changed();
             });
 }
 
-void PrinterSetup::takeMarkedSize()
+void PrinterSetup::followMarks()
 {
     if (ppd()) {
         settings().setLabelSize(ppd()->markedSize());
@@ -45,6 +47,19 @@ void PrinterSetup::takeMarkedSize()
     // Panels take a job without any paper for a monochrome one, so an unknown label is a nameless
     // one.
     mPageFormat->setSize(settings().labelSize().value_or(kUnknownLabel));
+    writeTicket();
+}
+
+void PrinterSetup::writeTicket()
+{
+    const std::optional<LabelSize> &size = settings().labelSize();
+    if (size && !size->name.isEmpty()) {
+        mTicket.setPaperName(size->name);
+    }
+    if (ppd() && ppd()->hasOption(kColourOption)) {
+        mTicket.setColourMode(colourModeOf(ppd()->markedChoice(kColourOption)));
+    }
+    settings().setValue(ExtendedTicket::kKey, mTicket.xml());
 }
 
 std::optional<Failure> PrinterSetup::choose(const OptionChoices &choices)
@@ -70,7 +85,6 @@ std::optional<Failure> PrinterSetup::chooseOne(const OptionChoice &choice)
         return {};
     }
     // Another size of the user's own is the same record of the PPD, so nothing was reported.
-    takeMarkedSize();
     Q_EMIT changed();
     return {};
 }
@@ -83,14 +97,14 @@ void PrinterSetup::start(PanelSet::Views views)
         // from the start. Its objections wait for the job.
         mPanels.prepareJob();
     }
-    takeMarkedSize();
+    followMarks();
 }
 
 std::optional<Failure> PrinterSetup::setLabelSize(const LabelSize &size)
 {
     if (!ppd()) {
         settings().setLabelSize(size);
-        mPageFormat->setSize(size);
+        followMarks();
         Q_EMIT changed();
         return {};
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "dialog/ExtendedTicket.h"
 #include "dialog/Failure.h"
 #include "dialog/JobPageFormat.h"
 #include "dialog/JobSettings.h"
@@ -26,9 +27,10 @@ class PrinterSetup : public QObject
     Q_OBJECT
 public:
     /// `ppd` may be null: the job then has its general settings only. Takes title, copies, pages
-    /// and scaling over from `job`.
+    /// and scaling over from `job`. The settings hold `ticket` for the panels from now on, with the
+    /// label and the colour mode that are marked.
     PrinterSetup(const Printer &printer, std::shared_ptr<PpdFile> ppd, const JobSettings &job,
-                 const PlugIns &plugIns);
+                 const PlugIns &plugIns, const ExtendedTicket &ticket = {});
 
     const Printer &printer() const { return mPrinter; }
 
@@ -67,11 +69,13 @@ Q_SIGNALS:
 
 private:
     std::optional<Failure> chooseOne(const OptionChoice &choice);
-    void takeMarkedSize();
+    void followMarks();
+    void writeTicket();
 
     Printer mPrinter;
     std::shared_ptr<JobPageFormat> mPageFormat;
     HostedJob mJob;
+    ExtendedTicket mTicket;
     PanelSet mPanels;
     /// What the user, or the command line, asked for last: a way out of a clash keeps it.
     OptionChoice mLatest;

@@ -183,6 +183,10 @@
         <source>needs the name of a document to print</source>
         <translation>braucht den Namen eines Dokuments zum Drucken</translation>
     </message>
+    <message>
+        <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
+        <translation>Mit dem Etikett, den Farben und allem anderen aus dem Druckticket in &lt;Datei&gt; beginnen.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CupsConnection</name>
@@ -279,6 +283,37 @@
     <message>
         <source>has a damaged page; save or export it once more</source>
         <translation>hat eine beschädigte Seite; speichern oder exportieren Sie es noch einmal</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ExtendedTicket</name>
+    <message>
+        <source>is not a file; give --ticket the path of a ticket</source>
+        <translation>ist keine Datei; geben Sie mit --ticket den Pfad eines Tickets an</translation>
+    </message>
+    <message>
+        <source>cannot be read; give --ticket a file that you may read</source>
+        <translation>kann nicht gelesen werden; geben Sie mit --ticket eine Datei an, die Sie lesen dürfen</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the path given with --ticket</source>
+        <translation>diese Datei gibt es nicht; prüfen Sie den mit --ticket angegebenen Pfad</translation>
+    </message>
+    <message>
+        <source>is empty; give another ticket with --ticket</source>
+        <translation>ist leer; geben Sie mit --ticket ein anderes Ticket an</translation>
+    </message>
+    <message>
+        <source>is too large for a ticket; give one of at most %L1 bytes with --ticket</source>
+        <translation>ist zu groß für ein Ticket; geben Sie mit --ticket eines von höchstens %L1 Bytes an</translation>
+    </message>
+    <message>
+        <source>is no XML property list with a dictionary in it; give another ticket with --ticket</source>
+        <translation>ist keine XML-Eigenschaftsliste mit einem Wörterbuch; geben Sie mit --ticket ein anderes Ticket an</translation>
+    </message>
+    <message>
+        <source>its entry %1 is not a text; give another ticket with --ticket</source>
+        <translation>sein Eintrag %1 ist kein Text; geben Sie mit --ticket ein anderes Ticket an</translation>
     </message>
 </context>
 <context>
@@ -683,6 +718,10 @@
     <message>
         <source>Printed to the folder %1</source>
         <translation>In den Ordner %1 gedruckt</translation>
+    </message>
+    <message>
+        <source>the panel starts with &quot;%1&quot;; choose it there</source>
+        <translation>das Bedienfeld beginnt mit „%1“; wählen Sie es dort</translation>
     </message>
 </context>
 <context>

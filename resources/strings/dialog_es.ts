@@ -183,6 +183,10 @@
         <source>needs the name of a document to print</source>
         <translation>necesita el nombre del documento que se imprimirá</translation>
     </message>
+    <message>
+        <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
+        <translation>Empezar con la etiqueta, los colores y lo demás del tique de impresión en &lt;archivo&gt;.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CupsConnection</name>
@@ -279,6 +283,37 @@
     <message>
         <source>has a damaged page; save or export it once more</source>
         <translation>tiene una página dañada; guárdelo o expórtelo de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ExtendedTicket</name>
+    <message>
+        <source>is not a file; give --ticket the path of a ticket</source>
+        <translation>no es un archivo; indique con --ticket la ruta de un tique</translation>
+    </message>
+    <message>
+        <source>cannot be read; give --ticket a file that you may read</source>
+        <translation>no se puede leer; indique con --ticket un archivo que pueda leer</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the path given with --ticket</source>
+        <translation>no existe ese archivo; compruebe la ruta indicada con --ticket</translation>
+    </message>
+    <message>
+        <source>is empty; give another ticket with --ticket</source>
+        <translation>está vacío; indique otro tique con --ticket</translation>
+    </message>
+    <message>
+        <source>is too large for a ticket; give one of at most %L1 bytes with --ticket</source>
+        <translation>es demasiado grande para un tique; indique con --ticket uno de %L1 bytes como máximo</translation>
+    </message>
+    <message>
+        <source>is no XML property list with a dictionary in it; give another ticket with --ticket</source>
+        <translation>no es una lista de propiedades XML con un diccionario; indique otro tique con --ticket</translation>
+    </message>
+    <message>
+        <source>its entry %1 is not a text; give another ticket with --ticket</source>
+        <translation>su entrada %1 no es un texto; indique otro tique con --ticket</translation>
     </message>
 </context>
 <context>
@@ -683,6 +718,10 @@
     <message>
         <source>Printed to the folder %1</source>
         <translation>Impreso en la carpeta %1</translation>
+    </message>
+    <message>
+        <source>the panel starts with &quot;%1&quot;; choose it there</source>
+        <translation>el panel empieza con «%1»; elíjalo allí</translation>
     </message>
 </context>
 <context>

@@ -183,6 +183,10 @@
         <source>needs the name of a document to print</source>
         <translation>demande le nom d’un document à imprimer</translation>
     </message>
+    <message>
+        <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
+        <translation>Commencer avec l’étiquette, les couleurs et le reste du ticket d’impression dans &lt;fichier&gt;.</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CupsConnection</name>
@@ -279,6 +283,37 @@
     <message>
         <source>has a damaged page; save or export it once more</source>
         <translation>contient une page endommagée&#xa0;; enregistrez-le ou exportez-le de nouveau</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ExtendedTicket</name>
+    <message>
+        <source>is not a file; give --ticket the path of a ticket</source>
+        <translation>n’est pas un fichier&#xa0;; indiquez avec --ticket le chemin d’un ticket</translation>
+    </message>
+    <message>
+        <source>cannot be read; give --ticket a file that you may read</source>
+        <translation>ne peut pas être lu&#xa0;; indiquez avec --ticket un fichier que vous pouvez lire</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the path given with --ticket</source>
+        <translation>ce fichier n’existe pas&#xa0;; vérifiez le chemin indiqué avec --ticket</translation>
+    </message>
+    <message>
+        <source>is empty; give another ticket with --ticket</source>
+        <translation>est vide&#xa0;; indiquez un autre ticket avec --ticket</translation>
+    </message>
+    <message>
+        <source>is too large for a ticket; give one of at most %L1 bytes with --ticket</source>
+        <translation>est trop grand pour un ticket&#xa0;; indiquez-en un d’au plus %L1 octets avec --ticket</translation>
+    </message>
+    <message>
+        <source>is no XML property list with a dictionary in it; give another ticket with --ticket</source>
+        <translation>n’est pas une liste de propriétés XML avec un dictionnaire&#xa0;; indiquez un autre ticket avec --ticket</translation>
+    </message>
+    <message>
+        <source>its entry %1 is not a text; give another ticket with --ticket</source>
+        <translation>son entrée %1 n’est pas un texte&#xa0;; indiquez un autre ticket avec --ticket</translation>
     </message>
 </context>
 <context>
@@ -683,6 +718,10 @@
     <message>
         <source>Printed to the folder %1</source>
         <translation>Imprimé dans le dossier %1</translation>
+    </message>
+    <message>
+        <source>the panel starts with &quot;%1&quot;; choose it there</source>
+        <translation>le panneau commence avec «&#xa0;%1&#xa0;»&#xa0;; choisissez-le là</translation>
     </message>
 </context>
 <context>

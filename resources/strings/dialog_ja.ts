@@ -183,6 +183,10 @@
         <source>needs the name of a document to print</source>
         <translation>印刷する文書の名前が必要です</translation>
     </message>
+    <message>
+        <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
+        <translation>&lt;ファイル&gt; の印刷チケットにあるラベル、色、その他の内容で開始します。</translation>
+    </message>
 </context>
 <context>
     <name>dialog::CupsConnection</name>
@@ -279,6 +283,37 @@
     <message>
         <source>has a damaged page; save or export it once more</source>
         <translation>壊れたページがあります。もう一度保存またはエクスポートしてください</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::ExtendedTicket</name>
+    <message>
+        <source>is not a file; give --ticket the path of a ticket</source>
+        <translation>ファイルではありません。--ticket にチケットのパスを指定してください</translation>
+    </message>
+    <message>
+        <source>cannot be read; give --ticket a file that you may read</source>
+        <translation>読み取れません。--ticket に読み取れるファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the path given with --ticket</source>
+        <translation>そのファイルはありません。--ticket のパスを確認してください</translation>
+    </message>
+    <message>
+        <source>is empty; give another ticket with --ticket</source>
+        <translation>空です。--ticket に別のチケットを指定してください</translation>
+    </message>
+    <message>
+        <source>is too large for a ticket; give one of at most %L1 bytes with --ticket</source>
+        <translation>チケットとしては大きすぎます。--ticket に %L1 バイト以下のものを指定してください</translation>
+    </message>
+    <message>
+        <source>is no XML property list with a dictionary in it; give another ticket with --ticket</source>
+        <translation>辞書を含む XML プロパティリストではありません。--ticket に別のチケットを指定してください</translation>
+    </message>
+    <message>
+        <source>its entry %1 is not a text; give another ticket with --ticket</source>
+        <translation>項目 %1 がテキストではありません。--ticket に別のチケットを指定してください</translation>
     </message>
 </context>
 <context>
@@ -681,6 +716,10 @@
     <message>
         <source>Printed to the folder %1</source>
         <translation>フォルダー %1 に印刷しました</translation>
+    </message>
+    <message>
+        <source>the panel starts with &quot;%1&quot;; choose it there</source>
+        <translation>パネルは「%1」で始まります。パネルで選んでください</translation>
     </message>
 </context>
 <context>

@@ -31,12 +31,14 @@ std::string failureOf(const QStringList &arguments)
 
 TEST(CommandLine, ReadsEveryOption)
 {
-    const CommandLine line = lineOf(
-        {QStringLiteral("photo.png"), QStringLiteral("--printer"), QStringLiteral("Office"),
-         QStringLiteral("-o"), QStringLiteral("CvBrightness=-5"), QStringLiteral("-o"),
-         QStringLiteral("PageSize=Custom.60x100mm"), QStringLiteral("--copies"),
-         QStringLiteral("3"), QStringLiteral("--pages"), QStringLiteral("1-3,5"),
-         QStringLiteral("--plugin"), QStringLiteral("panels"), QStringLiteral("--no-dialog")});
+    const CommandLine line =
+        lineOf({QStringLiteral("photo.png"), QStringLiteral("--printer"), QStringLiteral("Office"),
+                QStringLiteral("-o"), QStringLiteral("CvBrightness=-5"), QStringLiteral("-o"),
+                QStringLiteral("PageSize=Custom.60x100mm"), QStringLiteral("--copies"),
+                QStringLiteral("3"), QStringLiteral("--pages"), QStringLiteral("1-3,5"),
+                QStringLiteral("--plugin"), QStringLiteral("panels"), QStringLiteral("--no-dialog"),
+                QStringLiteral("--ticket"), QStringLiteral("job.ticket")});
+    EXPECT_EQ(line.ticket, QStringLiteral("job.ticket"));
     EXPECT_EQ(line.document, QStringLiteral("photo.png"));
     EXPECT_EQ(line.printer, QStringLiteral("Office"));
     EXPECT_EQ(line.plugIn, QStringLiteral("panels"));

@@ -69,6 +69,28 @@ TEST_F(Program, PrintsWithoutADialogAndTheSettingsCanBeReadBack)
     EXPECT_EQ(printed.readAll(), document);
 }
 
+TEST_F(Program, StartsFromATicketAndRefusesABadOne)
+{
+    const QString ticket =
+        write(QStringLiteral("job.ticket"),
+              "<plist><dict><key>KtPaperName2</key><string>DC17x54</string>"
+              "<key>KtVLMultiColor</key><string>MultiColorBlackRed</string></dict></plist>");
+    EXPECT_EQ(run(toFolder({QStringLiteral("--ticket"), ticket})), 0) << complained;
+    const auto settings =
+        dialog::FolderPrinter::readSettings(out() + QStringLiteral("/job-0001/settings.plist"));
+    ASSERT_TRUE(settings);
+    EXPECT_EQ(settings.value().choice(QStringLiteral("CvMultiColor")),
+              QStringLiteral("CvMultiColorBlackRed"));
+    EXPECT_EQ(settings.value().labelSize()->name, QStringLiteral("DC17x54"));
+
+    const QString bad = write(QStringLiteral("bad.ticket"), "no ticket");
+    EXPECT_EQ(run(toFolder({QStringLiteral("--ticket"), bad})), 4);
+    EXPECT_THAT(complained, StartsWith("label-print: " + bad.toStdString() + ": is no XML"));
+    EXPECT_EQ(run({QStringLiteral("--ticket"), bad, QStringLiteral("--screenshot"),
+                   folder.filePath(QStringLiteral("dialog.png"))}),
+              4);
+}
+
 TEST_F(Program, SavesAPictureOfTheDialogWithoutADisplay)
 {
     const QString picture = folder.filePath(QStringLiteral("dialog.png"));
