@@ -6,6 +6,7 @@
 #include "platform/SystemLog.h"
 #include "support/TestBundles.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 
 #include <gmock/gmock.h>
@@ -141,6 +142,13 @@ TEST_F(DispatcherTest, BeepsAndLinesForTheLogAreEventsInTheirOrder)
     EXPECT_EQ(lines[0].value(QLatin1String("event")), QJsonValue(QLatin1String("log")));
     EXPECT_EQ(lines[0].value(QLatin1String("text")), QJsonValue(QLatin1String("a line\nand more")));
     EXPECT_EQ(lines[1], (QJsonObject{{QLatin1String("event"), QLatin1String("beep")}}));
+}
+
+TEST_F(DispatcherTest, WhatARequestLeavesForLaterBelongsToIt)
+{
+    QMetaObject::invokeMethod(
+        qApp, [] { platform::beep(); }, Qt::QueuedConnection);
+    EXPECT_THAT(answers("{\"do\": \"formatter.new\"}"), SizeIs(2));
 }
 
 TEST_F(DispatcherTest, NotificationsTellNothingFromEmptyUserInformation)
