@@ -53,7 +53,7 @@ QJsonObject Dispatcher::run(const QJsonObject &request)
             QStringLiteral("there is no request \"%1\"").arg(name.left(100).simplified()));
     }
     QJsonObject reply = known->run(mSession, members);
-    // What the request left for later belongs to it.
+    // What the request left for later belongs to it, and would pile up otherwise.
     QCoreApplication::processEvents();
     reply.insert(QStringLiteral("ok"), true);
     return reply;
