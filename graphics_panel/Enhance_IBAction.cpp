@@ -17,18 +17,13 @@ void GraphicsPDE13_v300_::changeHalftone(QWidget * /*sender*/)
 void GraphicsPDE13_v300_::changeBrightness(QWidget * /*sender*/)
 {
     redrawBriConView();
-    const qint32 index = indexOfLevel(platform::intValue(mBrightnessSlider));
-    selectionForItem(index, QLatin1String(kBrightnessOption), mBrightness_Choices.get(),
-                     kBrightnessItem);
-    updateUIItem(kBrightnessItem);
+    chooseLevel(brightnessLevel(), platform::intValue(mBrightnessSlider));
 }
 
 void GraphicsPDE13_v300_::changeContrast(QWidget * /*sender*/)
 {
     redrawBriConView();
-    const qint32 index = indexOfLevel(platform::intValue(mContrustSlider));
-    selectionForItem(index, QLatin1String(kContrastOption), mContrast_Choices.get(), kContrastItem);
-    updateUIItem(kContrastItem);
+    chooseLevel(contrastLevel(), platform::intValue(mContrustSlider));
 }
 
 void GraphicsPDE13_v300_::changeBidiPrint(QWidget * /*sender*/)
@@ -51,7 +46,5 @@ void GraphicsPDE13_v300_::changeColor(QWidget * /*sender*/)
 
 void GraphicsPDE13_v300_::changeRedLevel(QWidget * /*sender*/)
 {
-    const qint32 index = indexOfLevel(platform::intValue(mRedLevelSlider));
-    selectionForItem(index, QLatin1String(kRedLevelOption), mRedLevel_Choices.get(), kRedLevelItem);
-    updateUIItem(kRedLevelItem);
+    chooseLevel(redLevel(), platform::intValue(mRedLevelSlider));
 }

@@ -62,8 +62,16 @@ inline constexpr QLatin1String kRedLevelSummaryKey("HC_STitle_RedLevel");
 inline constexpr QLatin1String kYesSummaryKey("RS_STitle_Yes");
 inline constexpr QLatin1String kNoSummaryKey("RS_STitle_No");
 
+/// What a number field says when it does not take a level as it was typed.
+inline constexpr QLatin1String kLevelRangeKey("HC_LevelRange");
+inline constexpr QLatin1String kLevelMissingKey("HC_LevelMissing");
+
 /// What a label puts behind the title of the PPD.
 inline constexpr QLatin1String kLabelSuffix(" : ");
+
+/// The levels that a person can choose.
+inline constexpr qint32 kLowestLevel = -20;
+inline constexpr qint32 kHighestLevel = 20;
 
 /// 32-bit, wrapping at the ends: only the smallest number stays negative.
 constexpr qint32 absoluteValue(qint32 value)

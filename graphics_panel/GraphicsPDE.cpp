@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "graphics_panel/GraphicsPDE.h"
 
+#include "controls/InputControls.h"
 #include "graphics_panel/GraphicsKeys.h"
 #include "platform/Controls.h"
 #include "platform/Geometry.h"
@@ -80,6 +81,8 @@ GraphicsPDE13_v300_::GraphicsPDE13_v300_() = default;
 
 GraphicsPDE13_v300_::~GraphicsPDE13_v300_()
 {
+    // What the view does while it goes is nobody's typing.
+    mLevelEntries = {};
     delete mHalftoneView;
     delete mBriConView;
     for (const BoundOption &bound : kBoundOptions) {
@@ -120,6 +123,7 @@ bool GraphicsPDE13_v300_::usesUsb() const
 
 void GraphicsPDE13_v300_::fillOutlets(platform::Outlets &outlets)
 {
+    controls::registerInputControls();
     outlets.add("mSeparateLineGR", mSeparateLineGR);
     outlets.add("mHalftoneDummyView", mHalftoneDummyView);
     outlets.add("mBriConDummyView", mBriConDummyView);
@@ -162,6 +166,7 @@ void GraphicsPDE13_v300_::awakeFromNib()
     if (!mBiDiPrint_Choices) {
         closeGapOfBiDiPrint();
     }
+    watchLevelEntries();
 }
 
 void GraphicsPDE13_v300_::placeHalftoneView()
@@ -231,6 +236,7 @@ void GraphicsPDE13_v300_::printWindowWillClose(bool /*userCancelled*/)
 
 bool GraphicsPDE13_v300_::shouldPrint()
 {
+    takeOverTypedLevels();
     saveSetting_Color();
     for (const BoundOption &bound : kBoundOptions) {
         setDefaultChoices(this->*bound.option, (this->*bound.choices).get(), bound.keyword,
@@ -266,6 +272,7 @@ void GraphicsPDE13_v300_::getValuesFromKey()
 
 void GraphicsPDE13_v300_::setValuesToKey()
 {
+    takeOverTypedLevels();
     saveSetting_Halftone();
     saveSetting_Brightness();
     saveSetting_Contrast();
@@ -287,25 +294,4 @@ void GraphicsPDE13_v300_::setPDEItems2()
     updateMarkedSelections(kBrightnessItem);
     updateMarkedSelections(kContrastItem);
     updateMarkedSelections(kBiDiPrintItem);
-}
-
-GraphicsPDE13_v300_::Level GraphicsPDE13_v300_::brightnessLevel() const
-{
-    return {kBrightnessOption, kBrightnessKey, mBrightness_Option, mBrightness_Choices.get(),
-            mBrightnessTitle,  HlftnColMinTx,  HlftnColMidTx,      HlftnColMaxTx,
-            mBrightnessSlider, mBrightnessText};
-}
-
-GraphicsPDE13_v300_::Level GraphicsPDE13_v300_::contrastLevel() const
-{
-    return {kContrastOption, kContrastKey,   mContrast_Option, mContrast_Choices.get(),
-            mContrustTitle,  Hlftn2ColMinTx, Hlftn2ColMidTx,   Hlftn2ColMaxTx,
-            mContrustSlider, mContrustText};
-}
-
-GraphicsPDE13_v300_::Level GraphicsPDE13_v300_::redLevel() const
-{
-    return {kRedLevelOption, kRedLevelKey,   mRedLevel_Option, mRedLevel_Choices.get(),
-            mRedLevelTitle,  mRedLevelMinTx, mRedLevelMidTx,   mRedLevelMaxTx,
-            mRedLevelSlider, mRedLevelText};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "graphics_panel/LevelEntry.h"
 #include "platform/RadioMatrix.h"
 #include "plugin/BasePDE.h"
 #include "plugin/PanelInspection.h"
@@ -48,6 +49,9 @@ public:
     /// commits the first four settings.
     std::shared_ptr<const QStringList> supportedPPDOptionKeys() override;
     void printWindowWillClose(bool userCancelled) override;
+    /// Both take over a level that is being typed, and so do shouldPrint and setValuesToKey.
+    void willShow() override;
+    bool shouldHide() override;
     /// Commits the colour mode, then the default of every option without a marked choice. Yes.
     bool shouldPrint() override;
     bool shouldShowHelp() override;
@@ -136,6 +140,7 @@ private:
     {
         const char *keyword;
         QLatin1String titleKey;
+        qint32 itemType;
         ppd_option_t *option;
         const ChoiceList *choices;
         QLabel *title, *minimum, *middle, *maximum;
@@ -145,7 +150,9 @@ private:
     Level brightnessLevel() const;
     Level contrastLevel() const;
     Level redLevel() const;
-
+    void chooseLevel(const Level &setting, qint32 level);
+    void watchLevelEntries();
+    void takeOverTypedLevels();
     bool usesUsb() const;
     void placeHalftoneView();
     void placeBriConView();
@@ -197,21 +204,16 @@ private:
     QPointer<QSlider> mRedLevelSlider;
     std::shared_ptr<ChoiceList> mHalftone_Choices, mBrightness_Choices, mContrast_Choices;
     std::shared_ptr<ChoiceList> mBiDiPrint_Choices, mColor_Choices, mRedLevel_Choices;
-    ppd_option_t *mHalftone_Option = nullptr;
-    ppd_option_t *mBrightness_Option = nullptr;
-    ppd_option_t *mContrast_Option = nullptr;
-    ppd_option_t *mBiDiPrint_Option = nullptr;
-    ppd_option_t *mColor_Option = nullptr;
-    ppd_option_t *mRedLevel_Option = nullptr;
+    ppd_option_t *mHalftone_Option = nullptr, *mBrightness_Option = nullptr;
+    ppd_option_t *mContrast_Option = nullptr, *mBiDiPrint_Option = nullptr;
+    ppd_option_t *mColor_Option = nullptr, *mRedLevel_Option = nullptr;
     /// Null or an element of the choice list of the same option.
-    PDEChoice *mHalftone_Selection = nullptr;
-    PDEChoice *mBrightness_Selection = nullptr;
-    PDEChoice *mContrast_Selection = nullptr;
-    PDEChoice *mBiDiPrint_Selection = nullptr;
-    PDEChoice *mColor_Selection = nullptr;
-    PDEChoice *mRedLevel_Selection = nullptr;
+    PDEChoice *mHalftone_Selection = nullptr, *mBrightness_Selection = nullptr;
+    PDEChoice *mContrast_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
+    PDEChoice *mColor_Selection = nullptr, *mRedLevel_Selection = nullptr;
     quint8 usb_dec = 0;
     [[maybe_unused]] float choice_PaperSize = 0.0F;
-    quint8 column_dec = 0;
-    quint8 set_formatSetting = 0;
+    quint8 column_dec = 0, set_formatSetting = 0;
+    /// Brightness, contrast, red level; null until there is a view.
+    std::array<std::unique_ptr<graphics::LevelEntry>, 3> mLevelEntries;
 };

@@ -95,6 +95,14 @@
         <source>Prints on the way there and on the way back: faster, but lines may meet less exactly</source>
         <translation>Druckt auf dem Hin- und auf dem Rückweg: schneller, aber Linien treffen sich weniger genau</translation>
     </message>
+    <message>
+        <source>A number from -20 to 20; Up and Down change it by one</source>
+        <translation>Eine Zahl von -20 bis 20; die Pfeiltasten auf und ab ändern sie um eins</translation>
+    </message>
+    <message>
+        <source>A number from -20 to 20; only while black and red is chosen</source>
+        <translation>Eine Zahl von -20 bis 20; nur bei Schwarz und Rot</translation>
+    </message>
 </context>
 <context>
     <name>Localizable</name>
@@ -172,6 +180,16 @@
         <source>HC_RedLevel</source>
         <extracomment>Title label</extracomment>
         <translation>Rotanteil:</translation>
+    </message>
+    <message>
+        <source>HC_LevelRange</source>
+        <extracomment>Tool tip of a number field that refuses what is typed or cuts it to the bounds</extracomment>
+        <translation>Eine Stufe ist eine ganze Zahl von -20 bis 20.</translation>
+    </message>
+    <message>
+        <source>HC_LevelMissing</source>
+        <extracomment>Tool tip of a number field whose slider went back to another level</extracomment>
+        <translation>Diese Stufe hat der Drucker nicht.</translation>
     </message>
     <message>
         <source>HC_STitle_Halftone</source>

@@ -79,6 +79,16 @@
         <translation>Red level:</translation>
     </message>
     <message>
+        <source>HC_LevelRange</source>
+        <extracomment>Tool tip of a number field that refuses what is typed or cuts it to the bounds</extracomment>
+        <translation>A level is a whole number from -20 to 20.</translation>
+    </message>
+    <message>
+        <source>HC_LevelMissing</source>
+        <extracomment>Tool tip of a number field whose slider went back to another level</extracomment>
+        <translation>The printer does not have this level.</translation>
+    </message>
+    <message>
         <source>HC_STitle_Halftone</source>
         <extracomment>Title in the summary</extracomment>
         <translation>Halftone</translation>

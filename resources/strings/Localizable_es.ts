@@ -95,6 +95,14 @@
         <source>Prints on the way there and on the way back: faster, but lines may meet less exactly</source>
         <translation>Imprime a la ida y a la vuelta: más rápido, pero las líneas encajan peor</translation>
     </message>
+    <message>
+        <source>A number from -20 to 20; Up and Down change it by one</source>
+        <translation>Un número de -20 a 20; las flechas arriba y abajo lo cambian en uno</translation>
+    </message>
+    <message>
+        <source>A number from -20 to 20; only while black and red is chosen</source>
+        <translation>Un número de -20 a 20; solo en negro y rojo</translation>
+    </message>
 </context>
 <context>
     <name>Localizable</name>
@@ -172,6 +180,16 @@
         <source>HC_RedLevel</source>
         <extracomment>Title label</extracomment>
         <translation>Nivel de rojo:</translation>
+    </message>
+    <message>
+        <source>HC_LevelRange</source>
+        <extracomment>Tool tip of a number field that refuses what is typed or cuts it to the bounds</extracomment>
+        <translation>Un nivel es un número entero de -20 a 20.</translation>
+    </message>
+    <message>
+        <source>HC_LevelMissing</source>
+        <extracomment>Tool tip of a number field whose slider went back to another level</extracomment>
+        <translation>La impresora no tiene ese nivel.</translation>
     </message>
     <message>
         <source>HC_STitle_Halftone</source>

@@ -95,6 +95,14 @@
         <source>Prints on the way there and on the way back: faster, but lines may meet less exactly</source>
         <translation>Imprime à l’aller et au retour : plus rapide, mais les lignes se rejoignent moins bien</translation>
     </message>
+    <message>
+        <source>A number from -20 to 20; Up and Down change it by one</source>
+        <translation>Un nombre de -20 à 20 ; les flèches haut et bas le changent de un</translation>
+    </message>
+    <message>
+        <source>A number from -20 to 20; only while black and red is chosen</source>
+        <translation>Un nombre de -20 à 20 ; seulement en noir et rouge</translation>
+    </message>
 </context>
 <context>
     <name>Localizable</name>
@@ -172,6 +180,16 @@
         <source>HC_RedLevel</source>
         <extracomment>Title label</extracomment>
         <translation>Niveau de rouge :</translation>
+    </message>
+    <message>
+        <source>HC_LevelRange</source>
+        <extracomment>Tool tip of a number field that refuses what is typed or cuts it to the bounds</extracomment>
+        <translation>Un niveau est un nombre entier de -20 à 20.</translation>
+    </message>
+    <message>
+        <source>HC_LevelMissing</source>
+        <extracomment>Tool tip of a number field whose slider went back to another level</extracomment>
+        <translation>L’imprimante n’a pas ce niveau.</translation>
     </message>
     <message>
         <source>HC_STitle_Halftone</source>

@@ -95,6 +95,14 @@
         <source>Prints on the way there and on the way back: faster, but lines may meet less exactly</source>
         <translation>行きと帰りの両方で印刷します。速くなりますが、線がわずかにずれることがあります</translation>
     </message>
+    <message>
+        <source>A number from -20 to 20; Up and Down change it by one</source>
+        <translation>-20 から 20 までの数。上下の矢印キーで 1 ずつ変わります</translation>
+    </message>
+    <message>
+        <source>A number from -20 to 20; only while black and red is chosen</source>
+        <translation>-20 から 20 までの数。黒と赤を選んだときだけ</translation>
+    </message>
 </context>
 <context>
     <name>Localizable</name>
@@ -172,6 +180,16 @@
         <source>HC_RedLevel</source>
         <extracomment>Title label</extracomment>
         <translation>赤のレベル(R):</translation>
+    </message>
+    <message>
+        <source>HC_LevelRange</source>
+        <extracomment>Tool tip of a number field that refuses what is typed or cuts it to the bounds</extracomment>
+        <translation>レベルは -20 から 20 までの整数です。</translation>
+    </message>
+    <message>
+        <source>HC_LevelMissing</source>
+        <extracomment>Tool tip of a number field whose slider went back to another level</extracomment>
+        <translation>プリンターにこのレベルはありません。</translation>
     </message>
     <message>
         <source>HC_STitle_Halftone</source>

@@ -39,13 +39,13 @@ const Control kControls[] = {
     {"QLabel", "mContrustTitle", {120, 170, 200, 20}, kTitle},
     {"QSlider", "mBrightnessSlider", {120, 120, 200, 20}, kLevel},
     {"QSlider", "mContrustSlider", {120, 190, 200, 20}, kLevel},
-    {"QLineEdit", "mBrightnessText", {340, 120, 40, 20}, kNumber},
-    {"QLineEdit", "mContrustText", {340, 190, 40, 20}, kNumber},
+    {"PDETextField13_v300_", "mBrightnessText", {340, 120, 40, 20}, kNumber},
+    {"PDETextField13_v300_", "mContrustText", {340, 190, 40, 20}, kNumber},
     {"QLabel", "mColorTitle", {120, 240, 200, 20}, kTitle},
     {"QComboBox", "mColorPUBtn", {120, 260, 200, 24}, kItems},
     {"QLabel", "mRedLevelTitle", {120, 290, 200, 20}, kTitle},
     {"QSlider", "mRedLevelSlider", {120, 310, 200, 20}, kLevel},
-    {"QLineEdit", "mRedLevelText", {340, 310, 40, 20}, kNumber},
+    {"PDETextField13_v300_", "mRedLevelText", {340, 310, 40, 20}, kNumber},
     {"QLabel", "mRedLevelMinTx", {120, 335, 40, 20}, kTitle},
     {"QLabel", "mRedLevelMidTx", {200, 335, 40, 20}, kTitle},
     {"QLabel", "mRedLevelMaxTx", {280, 335, 40, 20}, kTitle},
@@ -75,5 +75,7 @@ QByteArray interfaceDescription(const QStringList &missing)
     }
     return text
         + "</widget><customwidgets><customwidget><class>platform::RadioMatrix</class>"
-          "<extends>QWidget</extends></customwidget></customwidgets></ui>";
+          "<extends>QWidget</extends></customwidget><customwidget>"
+          "<class>PDETextField13_v300_</class><extends>QLineEdit</extends></customwidget>"
+          "</customwidgets></ui>";
 }

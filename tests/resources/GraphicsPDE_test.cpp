@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "controls/PDETextField.h"
 #include "platform/Controls.h"
 #include "platform/RadioMatrix.h"
 #include "resources/LoadedPanel.h"
@@ -153,12 +154,14 @@ TEST_F(PanelDescription, SlidersRunFromMinusTwentyToTwentyInSteps)
     }
 }
 
-TEST_F(PanelDescription, NumbersAreReadOnlyAndNoTabStops)
+TEST_F(PanelDescription, NumbersAreFieldsToTypeIn)
 {
     for (const QString &name : numberNames()) {
-        const auto *number = panel.find<QLineEdit>(name);
-        EXPECT_TRUE(number->isReadOnly());
-        EXPECT_EQ(number->focusPolicy(), Qt::NoFocus);
+        const auto *number = panel.find<PDETextField13_v300_>(name);
+        ASSERT_NE(number, nullptr) << name.toStdString();
+        EXPECT_FALSE(number->isReadOnly());
+        EXPECT_TRUE(number->hasFrame());
+        EXPECT_EQ(number->focusPolicy(), Qt::StrongFocus);
         EXPECT_TRUE(number->alignment() & Qt::AlignRight);
     }
 }
@@ -179,12 +182,13 @@ TEST_F(PanelDescription, TabGoesDownThePanel)
     panel.view()->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(panel.view()));
     EXPECT_EQ(tabStopsFrom(firstRow()),
-              names({"mHalftoneRadio", "mBrightnessSlider", "mContrustSlider", "mColorPUBtn",
-                     "mBiDiPrintChkBx"}));
+              names({"mHalftoneRadio", "mBrightnessSlider", "mBrightnessText", "mContrustSlider",
+                     "mContrustText", "mColorPUBtn", "mRedLevelText", "mBiDiPrintChkBx"}));
     panel.find<QSlider>(QStringLiteral("mRedLevelSlider"))->setEnabled(true);
     EXPECT_EQ(tabStopsFrom(firstRow()),
-              names({"mHalftoneRadio", "mBrightnessSlider", "mContrustSlider", "mColorPUBtn",
-                     "mRedLevelSlider", "mBiDiPrintChkBx"}));
+              names({"mHalftoneRadio", "mBrightnessSlider", "mBrightnessText", "mContrustSlider",
+                     "mContrustText", "mColorPUBtn", "mRedLevelSlider", "mRedLevelText",
+                     "mBiDiPrintChkBx"}));
 }
 
 TEST_F(PanelDescription, EveryTitleLeadsToItsControl)
@@ -249,9 +253,18 @@ TEST_P(PanelNames, AssistiveToolsTellEveryControlFromTheOthers)
 
 TEST_P(PanelNames, EverySettingExplainsItselfInAToolTip)
 {
-    for (const QString &name :
-         sliderNames() + names({"mHalftoneRadio", "mColorPUBtn", "mBiDiPrintChkBx"})) {
+    for (const QString &name : sliderNames() + numberNames()
+             + names({"mHalftoneRadio", "mColorPUBtn", "mBiDiPrintChkBx"})) {
         EXPECT_FALSE(panel.find<QWidget>(name)->toolTip().isEmpty()) << name.toStdString();
+    }
+}
+
+TEST_P(PanelNames, AssistiveToolsReadTheToolTipOfANumberAsItsDescription)
+{
+    for (const QString &name : numberNames()) {
+        auto *number = panel.find<QLineEdit>(name);
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(number)->text(QAccessible::Description),
+                  number->toolTip());
     }
 }
 

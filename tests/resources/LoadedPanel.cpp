@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "resources/LoadedPanel.h"
 
+#include "controls/InputControls.h"
 #include "platform/ViewHost.h"
 
 #include <QFile>
@@ -9,9 +10,11 @@
 
 LoadedPanel::LoadedPanel(const QString &language)
     : mBundle(QStringLiteral(BUNDLE_DIR), {language})
-    , mView(platform::ViewHost::current().loadNibNamed(QStringLiteral("GraphicsPDE"), mBundle,
-                                                       mOutlets))
-{ }
+{
+    controls::registerInputControls();
+    mView = platform::ViewHost::current().loadNibNamed(QStringLiteral("GraphicsPDE"), mBundle,
+                                                       mOutlets);
+}
 
 QString LoadedPanel::nameOf(const QWidget *control)
 {
@@ -38,6 +41,8 @@ QStringList panelKeys()
             QStringLiteral("HC_Monochrome"),
             QStringLiteral("HC_BlackRed"),
             QStringLiteral("HC_RedLevel"),
+            QStringLiteral("HC_LevelRange"),
+            QStringLiteral("HC_LevelMissing"),
             QStringLiteral("HC_STitle_Halftone"),
             QStringLiteral("HC_STitle_Brightness"),
             QStringLiteral("HC_STitle_Contrast"),

@@ -1,0 +1,451 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "graphics_panel/LevelEntry.h"
+
+#include "graphics_panel/LevelEntryFixture.h"
+#include "platform/NotificationCenter.h"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class LevelEntry : public LevelEntryTest
+{
+protected:
+    std::string choice(const char *level) const
+    {
+        return std::string(GetParam().option) + '=' + level;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Levels, LevelEntry, testing::ValuesIn(allLevels()), levelName);
+
+TEST_P(LevelEntry, ReturnTakesTheLevelOverOnce)
+{
+    open();
+    type("7");
+    EXPECT_EQ(level(), 0);
+    EXPECT_THAT(committed(), IsEmpty());
+    key(Qt::Key_Return);
+    EXPECT_EQ(level(), 7);
+    EXPECT_EQ(number(), "7");
+    EXPECT_THAT(committed(), ElementsAre(choice("7")));
+    EXPECT_EQ(selected(GetParam().option), 13);
+    key(Qt::Key_Return);
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_THAT(committed(), IsEmpty());
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_P(LevelEntry, LeavingTheFieldTakesTheLevelOverOnce)
+{
+    open();
+    type("-12");
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_FALSE(field()->hasFocus());
+    EXPECT_EQ(level(), -12);
+    EXPECT_THAT(committed(), ElementsAre(choice("-12")));
+    field()->setFocus();
+    type("4");
+    control<QCheckBox>("mBiDiPrintChkBx")->setFocus();
+    EXPECT_EQ(level(), 4);
+    EXPECT_THAT(committed(), ElementsAre(choice("4")));
+}
+
+TEST_P(LevelEntry, TheTypedLevelGoesTheWayOfTheSlider)
+{
+    open();
+    takeCalls();
+    levelSlider()->setValue(9);
+    const auto bySlider = takeCalls();
+    levelSlider()->setValue(0);
+    takeCalls();
+    type("9");
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    key(Qt::Key_Return);
+    EXPECT_EQ(takeCalls(), bySlider);
+}
+
+TEST_P(LevelEntry, AnUnchangedLevelCommitsNothing)
+{
+    open();
+    levelSlider()->setValue(5);
+    committed();
+    type("5");
+    key(Qt::Key_Return);
+    type("05");
+    key(Qt::Key_Return);
+    EXPECT_THAT(committed(), IsEmpty());
+    EXPECT_EQ(number(), "5");
+    EXPECT_EQ(level(), 5);
+    EXPECT_EQ(toolTip(), "");
+}
+
+TEST_P(LevelEntry, AFieldThatNobodyTypedIntoIsLeftAsItIs)
+{
+    open();
+    setNumber("30");
+    key(Qt::Key_Return);
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_EQ(number(), "30");
+    EXPECT_THAT(committed(), IsEmpty());
+}
+
+TEST_P(LevelEntry, LevelsAreCutToTheBoundsAndThatIsExplained)
+{
+    open();
+    type("99");
+    key(Qt::Key_Return);
+    EXPECT_EQ(level(), 20);
+    EXPECT_EQ(number(), "20");
+    EXPECT_THAT(committed(), ElementsAre(choice("20")));
+    EXPECT_EQ(toolTip(), "HC_LevelRange");
+    type("-99");
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_EQ(number(), "-20");
+    EXPECT_THAT(committed(), ElementsAre(choice("-20")));
+    EXPECT_EQ(toolTip(), "HC_LevelRange");
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_P(LevelEntry, AnEmptyTextAndALoneMinusGoBackToTheSlidersLevel)
+{
+    open();
+    levelSlider()->setValue(-3);
+    committed();
+    field()->selectAll();
+    key(Qt::Key_Delete);
+    EXPECT_EQ(number(), "");
+    key(Qt::Key_Return);
+    EXPECT_EQ(number(), "-3");
+    type("-");
+    EXPECT_EQ(number(), "-");
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_EQ(number(), "-3");
+    EXPECT_EQ(level(), -3);
+    EXPECT_THAT(committed(), IsEmpty());
+}
+
+TEST_P(LevelEntry, EscapeBringsTheSlidersLevelBack)
+{
+    open();
+    levelSlider()->setValue(6);
+    committed();
+    type("15");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(number(), "6");
+    QTest::keyClick(field(), Qt::Key_Tab);
+    EXPECT_EQ(level(), 6);
+    EXPECT_THAT(committed(), IsEmpty());
+}
+
+TEST_P(LevelEntry, ArrowsStepByOneAndPageKeysByFive)
+{
+    open();
+    key(Qt::Key_Up);
+    EXPECT_EQ(number(), "1");
+    EXPECT_THAT(committed(), ElementsAre(choice("1")));
+    key(Qt::Key_PageUp);
+    EXPECT_EQ(level(), 6);
+    key(Qt::Key_Down);
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(level(), 0);
+    EXPECT_EQ(number(), "0");
+    EXPECT_THAT(committed(), ElementsAre(choice("6"), choice("5"), choice("0")));
+}
+
+TEST_P(LevelEntry, StepsEndAtTheBounds)
+{
+    open();
+    levelSlider()->setValue(18);
+    committed();
+    key(Qt::Key_PageUp);
+    key(Qt::Key_PageUp);
+    key(Qt::Key_Up);
+    EXPECT_EQ(number(), "20");
+    EXPECT_THAT(committed(), ElementsAre(choice("20")));
+    levelSlider()->setValue(-20);
+    committed();
+    key(Qt::Key_Down);
+    EXPECT_THAT(committed(), IsEmpty());
+    EXPECT_EQ(number(), "-20");
+}
+
+TEST_P(LevelEntry, AStepStartsFromWhatIsTyped)
+{
+    open();
+    type("7");
+    key(Qt::Key_Up);
+    EXPECT_EQ(number(), "8");
+    EXPECT_THAT(committed(), ElementsAre(choice("8")));
+    type("-");
+    key(Qt::Key_Down);
+    EXPECT_THAT(committed(), ElementsAre(choice("7")));
+    type("99");
+    key(Qt::Key_Down);
+    EXPECT_THAT(committed(), ElementsAre(choice("19")));
+    EXPECT_EQ(toolTip(), "HC_LevelRange");
+}
+
+TEST_P(LevelEntry, ARefusedKeyBeepsOnceAndExplainsItself)
+{
+    open();
+    std::vector<std::string> posts;
+    auto &center = platform::NotificationCenter::defaultCenter();
+    center.addObserver(
+        &posts,
+        [&posts](const platform::Notification &posted) {
+            posts.push_back(posted.name.toStdString());
+        },
+        std::nullopt);
+    type("1x");
+    center.removeObserver(&posts);
+    EXPECT_EQ(number(), "1");
+    EXPECT_EQ(beeps, 1);
+    EXPECT_THAT(
+        posts,
+        ElementsAre("TextFieldResignFirstResponderNotification", "InvalidCharacterNotification"));
+    EXPECT_EQ(toolTip(), "HC_LevelRange");
+    key(Qt::Key_Return);
+    EXPECT_EQ(level(), 1);
+}
+
+TEST_P(LevelEntry, WhileTheSliderIsDisabledNothingCanBeTyped)
+{
+    open();
+    levelSlider()->setEnabled(false);
+    EXPECT_TRUE(field()->isEnabled());
+    type("7");
+    key(Qt::Key_Up);
+    key(Qt::Key_PageDown);
+    key(Qt::Key_Return);
+    EXPECT_EQ(number(), "0");
+    EXPECT_EQ(level(), 0);
+    EXPECT_THAT(committed(), IsEmpty());
+    levelSlider()->setEnabled(true);
+    type("7");
+    key(Qt::Key_Return);
+    EXPECT_THAT(committed(), ElementsAre(choice("7")));
+}
+
+TEST_P(LevelEntry, ADisabledFieldTakesNoKeys)
+{
+    open();
+    field()->setEnabled(false);
+    key(Qt::Key_Up);
+    EXPECT_THAT(committed(), IsEmpty());
+}
+
+TEST_P(LevelEntry, ALevelThatThePrinterLacksIsExplained)
+{
+    useChoices(levelChoices(31, 20));
+    open();
+    levelSlider()->setValue(5);
+    committed();
+    type("-15");
+    key(Qt::Key_Return);
+    EXPECT_EQ(level(), 5);
+    EXPECT_EQ(number(), "5");
+    EXPECT_THAT(committed(), IsEmpty());
+    EXPECT_EQ(toolTip(), "HC_LevelMissing");
+}
+
+TEST_P(LevelEntry, WithoutTheSliderTheNumberAloneIsTheLevel)
+{
+    open({QLatin1String(GetParam().slider)});
+    type("25");
+    key(Qt::Key_Return);
+    EXPECT_EQ(number(), "20");
+    EXPECT_THAT(committed(), ElementsAre(choice("20")));
+    key(Qt::Key_Down);
+    EXPECT_EQ(number(), "19");
+    EXPECT_THAT(committed(), ElementsAre(choice("19")));
+}
+
+TEST_P(LevelEntry, WithoutTheNumberTheSliderWorksOn)
+{
+    open({QLatin1String(GetParam().text)});
+    levelSlider()->setValue(3);
+    EXPECT_THAT(committed(), ElementsAre(choice("3")));
+    EXPECT_TRUE(panel->shouldHide());
+    EXPECT_TRUE(panel->shouldPrint());
+}
+
+TEST_P(LevelEntry, AViewThatGoesLeavesTheTypedLevelBehind)
+{
+    open();
+    type("7");
+    delete view;
+    EXPECT_THAT(committed(), ElementsAre(choice("7")));
+    EXPECT_TRUE(panel->shouldHide());
+    EXPECT_THAT(committed(), IsEmpty());
+    panel.reset();
+}
+
+TEST_P(LevelEntry, ReturnEndsTheTypingBeforeItReachesTheDialog)
+{
+    showPanel();
+    QDialog dialog;
+    auto *column = new QVBoxLayout(&dialog);
+    auto *print = new QPushButton(&dialog);
+    print->setDefault(true);
+    column->addWidget(view);
+    column->addWidget(print);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    int prints = 0;
+    QObject::connect(print, &QPushButton::clicked, [&prints] { ++prints; });
+    field()->setFocus();
+    type("7");
+    key(Qt::Key_Return);
+    EXPECT_EQ(prints, 0);
+    EXPECT_EQ(level(), 7);
+    key(Qt::Key_Return);
+    EXPECT_EQ(prints, 1);
+    type("9");
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(number(), "7");
+    panel.reset();
+}
+
+/// Brightness, contrast and red level stand for each other where only the order counts.
+class TypedLevels : public LevelEntryTest
+{ };
+
+INSTANTIATE_TEST_SUITE_P(Levels, TypedLevels, testing::ValuesIn(allLevels()), levelName);
+
+TEST_P(TypedLevels, AreTakenOverBeforeThePanelIsHidden)
+{
+    open();
+    type("7");
+    EXPECT_TRUE(panel->shouldHide());
+    EXPECT_EQ(level(), 7);
+    EXPECT_THAT(committed(), ElementsAre(std::string(GetParam().option) + "=7"));
+}
+
+TEST_P(TypedLevels, AreTakenOverBeforeThePanelIsShownAgain)
+{
+    open();
+    type("7");
+    panel->willShow();
+    EXPECT_EQ(level(), 7);
+    EXPECT_EQ(number(), "7");
+    EXPECT_THAT(committed(), ElementsAre(std::string(GetParam().option) + "=7"));
+}
+
+TEST_P(TypedLevels, AreTakenOverBeforeTheColourModeIsCommittedForAJob)
+{
+    open();
+    type("7");
+    EXPECT_TRUE(panel->shouldPrint());
+    const auto changes = committed();
+    ASSERT_GE(changes.size(), 2U);
+    EXPECT_EQ(changes[0], std::string(GetParam().option) + "=7");
+    EXPECT_EQ(changes[1], "CvMultiColor=CvMultiColorMonochrome");
+}
+
+TEST_P(TypedLevels, AreTakenOverBeforeTheFourSettingsAreSaved)
+{
+    open();
+    type("99");
+    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+    const auto changes = committed();
+    ASSERT_EQ(changes.size(), 5U);
+    EXPECT_EQ(changes[0], std::string(GetParam().option) + "=20");
+    EXPECT_EQ(changes[1], "CvHalftonePattern=ErrorDiffusion");
+    EXPECT_EQ(changes[2], GetParam().place == kBrightness ? "CvBrightness=20" : "CvBrightness=0");
+    EXPECT_EQ(changes[3], GetParam().place == kContrast ? "CvContrast=20" : "CvContrast=0");
+    EXPECT_EQ(changes[4], "CvBiDiPrint=ON");
+}
+
+TEST_P(TypedLevels, GiveWayToARestore)
+{
+    open();
+    levelSlider()->setValue(3);
+    type("7");
+    committed();
+    ppd->mark(GetParam().option, "-4");
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_THAT(committed(), IsEmpty());
+    // The red level is not among what a restore shows; what is typed there stays to be taken over.
+    const bool isRestored = GetParam().place != kRedLevel;
+    EXPECT_EQ(number(), isRestored ? "-4" : "7");
+}
+
+/// The preview writes the sliders' levels into the number fields whenever it is drawn.
+class PreviewWhileTyping : public LevelEntryTest
+{
+protected:
+    BriConView13_v300_ *preview() const { return GraphicsPDETestAccess(*panel).briConView(); }
+    QLineEdit *previewText() const
+    {
+        return GetParam().place == kBrightness ? preview()->brightnessStr()
+                                               : preview()->contrastStr();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Levels, PreviewWhileTyping,
+                         testing::Values(allLevels()[0], allLevels()[1]), levelName);
+
+TEST_P(PreviewWhileTyping, TypingDrawsNothing)
+{
+    open();
+    recordEverything();
+    type("1");
+    type("x");
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_P(PreviewWhileTyping, ADrawingLeavesWhatIsBeingTyped)
+{
+    open();
+    type("1");
+    preview()->grab();
+    EXPECT_EQ(number(), "1");
+    QTest::keyClicks(field(), QStringLiteral("5"));
+    preview()->grab();
+    key(Qt::Key_Return);
+    EXPECT_EQ(number(), "15");
+    EXPECT_EQ(level(), 15);
+}
+
+TEST_P(PreviewWhileTyping, ADrawingBringsTextAndSliderTogetherAgainAfterwards)
+{
+    open();
+    EXPECT_EQ(previewText(), field());
+    type("7");
+    key(Qt::Key_Return);
+    EXPECT_EQ(previewText(), field());
+    type("9");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(previewText(), field());
+    setNumber("8");
+    preview()->grab();
+    EXPECT_EQ(number(), "7");
+    type("07");
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Z);
+    QTest::keyClick(field(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(previewText(), field()->isModified() ? nullptr : field());
+}
+
+TEST_P(PreviewWhileTyping, TheOtherFieldStillFollowsItsSlider)
+{
+    open();
+    type("1");
+    const char *other = GetParam().place == kBrightness ? "mContrustText" : "mBrightnessText";
+    setText(other, "8");
+    preview()->grab();
+    EXPECT_EQ(text(other), "0");
+}
+
+} // namespace
