@@ -7,7 +7,7 @@ namespace filter {
 
 namespace {
 
-/// "type cost program" or "type type cost program"; the program may have "maxsize(...)" before it.
+/// "type cost program"; the program may have "maxsize(...)" before it.
 FilterRoute routeOf(const std::string &text)
 {
     std::istringstream words(text);
@@ -17,32 +17,26 @@ FilterRoute routeOf(const std::string &text)
     return route;
 }
 
-std::vector<FilterRoute> routesOfAttribute(ppd_file_t *ppd, const char *keyword)
-{
-    std::vector<FilterRoute> routes;
-    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute;
-         attribute = ppdFindNextAttr(ppd, keyword, nullptr)) {
-        routes.push_back(routeOf(attribute->value ? attribute->value : ""));
-    }
-    return routes;
-}
-
 } // namespace
 
 std::vector<FilterRoute> filterRoutes(ppd_file_t *ppd)
 {
-    std::vector<FilterRoute> routes = routesOfAttribute(ppd, "cupsFilter2");
-    if (routes.empty()) {
-        for (int i = 0; i < ppd->num_filters; ++i) {
-            routes.push_back(routeOf(ppd->filters[i]));
-        }
+    std::vector<FilterRoute> routes;
+    for (int i = 0; i < ppd->num_filters; ++i) {
+        routes.push_back(routeOf(ppd->filters[i]));
     }
     return routes;
 }
 
 std::vector<FilterRoute> preFilterRoutes(ppd_file_t *ppd)
 {
-    return routesOfAttribute(ppd, "cupsPreFilter");
+    constexpr const char *kKeyword = "cupsPreFilter";
+    std::vector<FilterRoute> routes;
+    for (const ppd_attr_t *attribute = ppdFindAttr(ppd, kKeyword, nullptr); attribute;
+         attribute = ppdFindNextAttr(ppd, kKeyword, nullptr)) {
+        routes.push_back(routeOf(attribute->value ? attribute->value : ""));
+    }
+    return routes;
 }
 
 } // namespace filter

@@ -16,7 +16,7 @@ struct FilterRoute
     std::string program;
 };
 
-/// The printer's filters: those of *cupsFilter2 if there are any, as CUPS then looks at no others,
+/// The printer's filters, as libcups has sorted them out: those of *cupsFilter2 if there are any,
 /// else those of *cupsFilter.
 std::vector<FilterRoute> filterRoutes(ppd_file_t *ppd);
 

@@ -21,6 +21,10 @@ namespace {
 constexpr int kPatience = 20000;
 constexpr unsigned long kPause = 10;
 
+// What anybody may run or look into, and only the owner may change.
+constexpr auto kProgram = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther
+    | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
+
 [[noreturn]] void fail(const QString &why)
 {
     throw std::runtime_error(why.toStdString());
@@ -198,16 +202,14 @@ QString CupsServerFixture::address() const
 
 void CupsServerFixture::makeTree() const
 {
-    const auto anybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther
-        | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
-    QFile::setPermissions(mFolder.path(), anybody);
+    QFile::setPermissions(mFolder.path(), kProgram);
     for (const char *name : {"etc/ppd", "etc/ssl", "state/certs", "log", "cache", "spool/tmp",
                              "bin/backend", "out", "home"}) {
         if (!QDir().mkpath(path(name))) {
             fail(path(name) + QStringLiteral(" cannot be made"));
         }
     }
-    QFile::setPermissions(path("out"), anybody | QFile::WriteGroup | QFile::WriteOther);
+    QFile::setPermissions(path("out"), kProgram | QFile::WriteGroup | QFile::WriteOther);
     for (const char *name : {"cgi-bin", "daemon", "driver", "filter", "monitor", "notifier"}) {
         QFile::link(QStringLiteral("/usr/lib/cups/") + QString::fromLatin1(name),
                     path("bin/") + QString::fromLatin1(name));
@@ -231,9 +233,7 @@ void CupsServerFixture::writeBackend() const
 {
     // The server runs a backend that anybody may run as the user of the jobs, not as its own.
     write(path("bin/backend/labsink"), kBackend);
-    QFile::setPermissions(path("bin/backend/labsink"),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther
-                              | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup);
+    QFile::setPermissions(path("bin/backend/labsink"), kProgram);
 }
 
 bool CupsServerFixture::start()
@@ -259,6 +259,24 @@ bool CupsServerFixture::start()
     return false;
 }
 
+void CupsServerFixture::addFilter(const QString &name, const QString &program) const
+{
+    const QString folder = path("bin/filter");
+    if (QFileInfo(folder).isSymLink()) {
+        const QDir stock(QFileInfo(folder).symLinkTarget());
+        QFile::remove(folder);
+        QDir().mkpath(folder);
+        for (const QString &file : stock.entryList(QDir::Files)) {
+            QFile::link(stock.filePath(file), folder + QLatin1Char('/') + file);
+        }
+    }
+    const QString copy = folder + QLatin1Char('/') + name;
+    QFile::remove(copy);
+    if (!QFile::copy(program, copy) || !QFile::setPermissions(copy, kProgram)) {
+        fail(copy + QStringLiteral(" cannot be made"));
+    }
+}
+
 void CupsServerFixture::administer(const QString &program, const QStringList &arguments) const
 {
     QProcess process;
@@ -282,9 +300,14 @@ void CupsServerFixture::addQueue(const QString &name)
                 "*cupsFilter: \"application/pdf 0 -\"\n*cupsFilter: \"image/png 0 -\"");
     const QString file = path("queue.ppd");
     write(file, ppd);
+    addQueue(name, file);
+}
+
+void CupsServerFixture::addQueue(const QString &name, const QString &ppdFile)
+{
     administer(QStringLiteral("lpadmin"),
                {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-                QStringLiteral("labsink:") + path("out"), QStringLiteral("-P"), file});
+                QStringLiteral("labsink:") + path("out"), QStringLiteral("-P"), ppdFile});
 }
 
 void CupsServerFixture::addRawQueue(const QString &name)

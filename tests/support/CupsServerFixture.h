@@ -27,9 +27,14 @@ public:
     /// A queue with the sample printer's PPD, changed so that documents reach the backend as they
     /// are.
     void addQueue(const QString &name);
+    /// A queue with the PPD at `ppdFile`, as it is.
+    void addQueue(const QString &name, const QString &ppdFile);
     /// A queue without a PPD.
     void addRawQueue(const QString &name);
     void removeQueue(const QString &name);
+
+    /// Gives the server a filter of its own beside those of the machine: a copy of `program`.
+    void addFilter(const QString &name, const QString &program) const;
 
     /// Runs one of the server's administration programs ("cupsdisable", {"Lab"}).
     void administer(const QString &program, const QStringList &arguments) const;
