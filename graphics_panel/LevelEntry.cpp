@@ -104,9 +104,6 @@ void LevelEntry::takeOver()
 void LevelEntry::setLevel(qint32 level)
 {
     const qint32 allowed = withinBounds(level);
-    // What the action leads to must not take the same text over again.
-    field()->setModified(false);
-    mPanel.typing(false);
     if (slider()) {
         slider()->setValue(allowed);
     } else {
