@@ -22,6 +22,7 @@ FilterRoute routeOf(const std::string &text)
 std::vector<FilterRoute> filterRoutes(ppd_file_t *ppd)
 {
     std::vector<FilterRoute> routes;
+    routes.reserve(static_cast<std::size_t>(ppd->num_filters));
     for (int i = 0; i < ppd->num_filters; ++i) {
         routes.push_back(routeOf(ppd->filters[i]));
     }

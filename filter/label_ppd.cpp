@@ -5,6 +5,8 @@
 #include "filter/PpdOutput.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <iostream>
 
 namespace {
@@ -62,9 +64,15 @@ int run(const LabelPpdArguments &arguments)
 
 int main(int argc, char **argv)
 {
-    const auto arguments = readArguments({argv + std::min(argc, 1), argv + argc});
-    if (const auto *failed = std::get_if<Failure>(&arguments)) {
-        return complain(*failed);
+    try {
+        const auto arguments = readArguments({argv + std::min(argc, 1), argv + argc});
+        if (const auto *failed = std::get_if<Failure>(&arguments)) {
+            return complain(*failed);
+        }
+        return run(std::get<LabelPpdArguments>(arguments));
+    } catch (const std::exception &error) {
+        // Of all that the standard library throws, only a lack of memory can come here.
+        std::fprintf(stderr, "label-ppd: memory: %s; close other programs\n", error.what());
+        return static_cast<int>(ExitCode::File);
     }
-    return run(std::get<LabelPpdArguments>(arguments));
 }
