@@ -1,9 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "controls/EditHook.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
 
 namespace controls {
+namespace {
+
+bool mayBringAnEdit(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 EditHook::EditHook(QLineEdit &field)
     : mField(field)
@@ -19,6 +39,16 @@ EditHook::EditHook(QLineEdit &field)
     connect(&field, &QLineEdit::cursorPositionChanged, this, selected);
     connect(&field, &QLineEdit::selectionChanged, this, selected);
     connect(&field, &QLineEdit::textChanged, this, &EditHook::follow);
+    field.installEventFilter(this);
+}
+
+bool EditHook::eventFilter(QObject *watched, QEvent *event)
+{
+    // The program may have set the text with the field's signals blocked.
+    if (watched == &mField && mayBringAnEdit(event->type()) && !mField.isModified()) {
+        follow();
+    }
+    return false;
 }
 
 EditHook::State EditHook::current() const

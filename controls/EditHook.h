@@ -36,6 +36,9 @@ public:
     /// here to the text that the program set last.
     void restore();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void follow();
 

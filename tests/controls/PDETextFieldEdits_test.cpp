@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QSignalBlocker>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -28,6 +29,13 @@ protected:
     {
         field.setText(QString::fromUtf8(text));
         length == 0 ? field.setCursorPosition(start) : field.setSelection(start, length);
+    }
+
+    /// As the panel writes the level of a slider.
+    void setSilently(const char *text)
+    {
+        const QSignalBlocker silent(&field);
+        field.setText(QString::fromUtf8(text));
     }
 
     void expectRefused()
@@ -201,6 +209,35 @@ TEST_F(PDETextFieldEdits, WhatTheProgramSetsIsNotJudgedAndIsTheNewStart)
     EXPECT_EQ(beeps, 0);
     type("7");
     EXPECT_EQ(text(), "abcdef");
+    expectRefused();
+}
+
+TEST_F(PDETextFieldEdits, WhatTheProgramSetsSilentlyIsTheNewStartToo)
+{
+    fill("5", 1);
+    setSilently("12");
+    type("x");
+    EXPECT_EQ(marked(), "12|");
+    expectRefused();
+    setSilently("34");
+    commit("x");
+    EXPECT_EQ(marked(), "34|");
+    expectRefused();
+    setSilently("56");
+    drop("x", 1);
+    EXPECT_EQ(text(), "56");
+    expectRefused();
+}
+
+TEST_F(PDETextFieldEdits, AKeyThatWouldReplaceWhatTheProgramSetSilentlyIsJudged)
+{
+    fill("", 0);
+    type("45");
+    takePosts();
+    setSilently("20");
+    field.selectAll();
+    type("x");
+    EXPECT_EQ(marked(), "[20]");
     expectRefused();
 }
 
