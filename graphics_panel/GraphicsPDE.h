@@ -117,6 +117,7 @@ private:
     bool isVL() override;
     std::vector<Outlet> outlets() override;
     bool dropOutlet(const QString &name) override;
+    bool isFormatter(const void *object) const override;
     std::vector<Preview> previews() const override;
     void watchPreviews(const std::function<void(const QString &name)> &told) override;
     bool run(const QString &name) override;

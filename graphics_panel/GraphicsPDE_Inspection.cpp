@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "graphics_panel/GraphicsPDE.h"
 
+#include "controls/PDETextField.h"
 #include "platform/Outlets.h"
 
 #include <algorithm>
@@ -101,6 +102,15 @@ bool GraphicsPDE13_v300_::dropOutlet(const QString &name)
         mOutlets.drop(name);
     }
     return known;
+}
+
+bool GraphicsPDE13_v300_::isFormatter(const void *object) const
+{
+    const auto fields = kPDEView ? kPDEView->findChildren<PDETextField13_v300_ *>()
+                                 : QList<PDETextField13_v300_ *>();
+    return object && std::any_of(fields.begin(), fields.end(), [object](const auto *field) {
+               return object == static_cast<const void *>(field->formatter().get());
+           });
 }
 
 std::vector<PanelInspection::Preview> GraphicsPDE13_v300_::previews() const

@@ -61,6 +61,9 @@ public:
     /// no such name. False when the panel has no such outlet.
     virtual bool dropOutlet(const QString &name) = 0;
 
+    /// Whether a notification's object is the formatter of one of the panel's fields.
+    virtual bool isFormatter(const void *object) const = 0;
+
     /// The two preview views by field; null before the view is loaded.
     struct Preview
     {

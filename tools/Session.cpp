@@ -107,7 +107,10 @@ std::optional<QString> Session::nameOf(const void *object) const
     if (mHost && object == static_cast<const PDEPluginCallback13_v300_ *>(mHost.get())) {
         return QStringLiteral("host");
     }
-    if (mFormatter && object == mFormatter->address()) {
+    const auto *panel = mPanels && !mPanels->empty()
+        ? dynamic_cast<const PanelInspection *>(mPanels->front().get())
+        : nullptr;
+    if ((mFormatter && object == mFormatter->address()) || (panel && panel->isFormatter(object))) {
         return QStringLiteral("formatter");
     }
     const QList<QLineEdit *> fields =
