@@ -3,6 +3,7 @@
 #include "filter/LabelPpdArguments.h"
 #include "filter/PpdInput.h"
 #include "filter/PpdOutput.h"
+#include "filter/Printable.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -12,14 +13,6 @@
 namespace {
 
 using namespace filter;
-
-/// What a PPD says must not reach the terminal as control characters.
-std::string printable(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7f; }, '?');
-    return text;
-}
 
 int complain(const Failure &failure)
 {
