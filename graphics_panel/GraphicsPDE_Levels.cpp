@@ -57,9 +57,10 @@ void GraphicsPDE13_v300_::watchLevelEntries()
                 (mBriConView->*setPreviewText)(isTyping ? nullptr : field.data());
             }
         };
+        const QPointer<QWidget> preview = setPreviewText ? mBriConView.data() : nullptr;
         const auto translated = [this](QLatin1String key) { return localized(key); };
         return std::make_unique<LevelEntry>(
-            LevelEntry::Panel{&text, &slider, commit, typing, translated});
+            LevelEntry::Panel{&text, &slider, commit, preview, typing, translated});
     };
     using Panel = GraphicsPDE13_v300_;
     mLevelEntries[0] =

@@ -61,7 +61,9 @@ LevelEntry::LevelEntry(Panel panel)
                 [this] { explain(kLevelRangeKey); });
     }
     connect(text, &QLineEdit::editingFinished, this, &LevelEntry::takeOver);
-    connect(text, &QLineEdit::textChanged, this, [this] { mPanel.typing(isTyping()); });
+    if (mPanel.preview) {
+        mPanel.preview->installEventFilter(this);
+    }
     if (slider()) {
         slider()->installEventFilter(this);
         followSlider();
@@ -147,6 +149,9 @@ bool LevelEntry::eventFilter(QObject *watched, QEvent *event)
             followSlider();
         }
         return false;
+    }
+    if (watched == mPanel.preview && event->type() == QEvent::Paint) {
+        mPanel.typing(isTyping());
     }
     if (watched != field()) {
         return false;

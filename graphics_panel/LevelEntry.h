@@ -30,7 +30,10 @@ public:
         const QPointer<QSlider> *slider;
         /// Takes a level over where there is no slider to do it.
         std::function<void(qint32 level)> commit;
-        /// Whether the field holds a text that is not taken over yet.
+        /// What shows the level beside the field when it is drawn, or null.
+        QPointer<QWidget> preview;
+        /// Whether the field holds a text that is not taken over yet: told before the preview is
+        /// drawn, and when the typing ends.
         std::function<void(bool typing)> typing;
         /// The translation of a key.
         std::function<QString(QLatin1String key)> localized;
