@@ -1,37 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CountedAllocations.h"
 #include "Pages.h"
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
+#include <memory>
 #include <string>
 #include <tuple>
-
-namespace {
-
-std::atomic<std::size_t> allocations = 0;
-
-} // namespace
-
-// Counted for the whole program, so that nothing escapes.
-void *operator new(std::size_t size)
-{
-    ++allocations;
-    if (void *memory = std::malloc(size)) {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void *memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void *memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 using namespace imaging;
 
@@ -53,22 +26,22 @@ TEST_P(Streaming, AVeryLongPageNeedsNoMoreMemoryThanItsRow)
     Bytes row = randomBytes(&random, page.inputRowBytes());
     Bytes black(page.outputRowBytes());
     Bytes red(page.outputRowBytes());
-    const std::size_t before = allocations;
+    const std::size_t before = allocations();
     std::size_t dots = 0;
     for (std::size_t y = 0; y < 100000; ++y) {
         row[y % row.size()] = std::uint8_t(y);
         ASSERT_TRUE(page.row(row, black, red));
         dots += black[2] != 0 || red[2] != 0 ? 1 : 0;
     }
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(allocations(), before);
     EXPECT_GT(dots, 1000U);
 }
 
 TEST(StreamingCount, SeesAnAllocation)
 {
-    const std::size_t before = allocations;
+    const std::size_t before = allocations();
     const auto text = std::make_unique<std::string>(100, 'x');
-    EXPECT_EQ(allocations, before + 2) << *text;
+    EXPECT_EQ(allocations(), before + 2) << *text;
 }
 
 std::string nameOf(const testing::TestParamInfo<Kind> &kind)
