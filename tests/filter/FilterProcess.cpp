@@ -3,7 +3,7 @@
 
 #include "filter/SmallPpd.h"
 
-#include <array>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
@@ -63,6 +63,7 @@ int FilterProcess::start(int input, int output, const std::string &logPath) cons
     if (isWithoutPpd) {
         unsetenv("PPD");
     }
+    std::signal(SIGPIPE, SIG_DFL);
     alarm(kPatience);
     execl(mProgram.c_str(), "Labels", "7", "somebody", "a title", copies.c_str(), options.c_str(),
           file.empty() ? nullptr : file.c_str(), nullptr);
