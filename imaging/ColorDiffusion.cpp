@@ -27,10 +27,11 @@ std::uint8_t bitOf(std::size_t x)
 ColorDiffusion::ColorDiffusion(std::size_t width, const DiffusionTable &table)
     : mWidth(width)
     , mTable(table)
-    , mErrors(width)
-    , mAside(width + 2)
+    , mShares(width + 2 * kMargin)
+    , mErrors(mShares.size())
+    , mAside(mShares.size() + 2)
 {
-    for (std::size_t x = 0; x < width; ++x) {
+    for (std::size_t x = 0; x < mErrors.size(); ++x) {
         mErrors[x] = start(x, kBlueNoiseSide - 1);
     }
 }
@@ -40,13 +41,13 @@ ColorDiffusion::Amounts ColorDiffusion::start(std::size_t x, std::size_t y)
     return {noisyStart(x, y), noisyStart(x + kRedOffset, y + kRedOffset)};
 }
 
-void ColorDiffusion::gather(const std::uint8_t *paper, const std::uint8_t *red)
+void ColorDiffusion::gather()
 {
-    for (std::size_t x = 0; x < mWidth; ++x) {
+    for (std::size_t x = 0; x < mErrors.size(); ++x) {
         const Amounts down = mErrors[x];
         const Amounts aside = mAside[x + 1];
-        mErrors[x] = {errorFromAbove(down.paper, aside.paper, paper[x]),
-                      errorFromAbove(down.red, aside.red, red[x])};
+        mErrors[x] = {errorFromAbove(down.paper, aside.paper, mShares[x].paper),
+                      errorFromAbove(down.red, aside.red, mShares[x].red)};
     }
     std::fill(mAside.begin(), mAside.end(), Amounts());
 }
@@ -70,9 +71,9 @@ ColorDiffusion::Dot ColorDiffusion::dotOf(const Amounts &due)
     return due.red > black ? Dot::Red : Dot::Black;
 }
 
-ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, const Shares &shares,
-                                            std::ptrdiff_t step, Amounts *ahead)
+ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, std::ptrdiff_t step, Amounts *ahead)
 {
+    const Shares shares = mShares[x];
     const std::uint8_t most = std::max({shares.paper, shares.red, shares.black()});
     if (most == 255) {
         *ahead = {};
@@ -92,19 +93,55 @@ ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, const Shares &shares,
     return dot;
 }
 
-/// Nothing is lost at the seam and at the sides of the page, as in ErrorDiffusion.
+/// As in ErrorDiffusion.
 void ColorDiffusion::keepRest(const Amounts &left, const Amounts &right)
 {
+    const std::size_t width = mShares.size();
+    const RowOrder order = rowOrder(mRow, width);
+    const auto paper = [this](std::ptrdiff_t x, int share) {
+        mAside[std::size_t(x + 1)].paper += share;
+    };
+    const auto red = [this](std::ptrdiff_t x, int share) {
+        mAside[std::size_t(x + 1)].red += share;
+    };
+    if (order.seam > 0) {
+        goOn(order.leftEnd(), 1, width, left.paper, paper);
+        goOn(order.leftEnd(), 1, width, left.red, red);
+    }
+    goOn(order.rightEnd(width), -1, width, right.paper, paper);
+    goOn(order.rightEnd(width), -1, width, right.red, red);
     const auto add = [](Amounts *error, const Amounts &more) {
         *error = {error->paper + more.paper, error->red + more.red};
     };
-    const RowOrder order = rowOrder(mRow, mWidth);
-    if (order.seam > 0) {
-        add(&mAside[order.inward ? order.seam : 1], left);
-    }
-    add(&mAside[order.inward ? order.seam + 1 : mWidth], right);
     add(&mErrors.front(), mAside.front());
     add(&mErrors.back(), mAside.back());
+}
+
+void ColorDiffusion::goThrough(std::uint8_t *blackInk, std::uint8_t *redInk)
+{
+    const std::size_t width = mShares.size();
+    const RowOrder order = rowOrder(mRow, width);
+    const std::size_t rights = width - order.seam;
+    Amounts leftAhead;
+    Amounts rightAhead;
+    const auto pass = [&](std::size_t x, Amounts *ahead) {
+        const Dot dot = diffuse(x, order.step(x), ahead);
+        // Left of the page this is a number beyond its width, too.
+        const std::size_t place = x - kMargin;
+        if (place < mWidth) {
+            blackInk[place / 8] |= dot == Dot::Black ? bitOf(place) : std::uint8_t(0);
+            redInk[place / 8] |= dot == Dot::Red ? bitOf(place) : std::uint8_t(0);
+        }
+    };
+    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
+        if (i < order.seam) {
+            pass(order.inward ? i : order.seam - 1 - i, &leftAhead);
+        }
+        if (i < rights) {
+            pass(order.inward ? width - 1 - i : order.seam + i, &rightAhead);
+        }
+    }
+    keepRest(leftAhead, rightAhead);
 }
 
 void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
@@ -115,25 +152,12 @@ void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
     }
     std::fill(blackInk, blackInk + (mWidth + 7) / 8, std::uint8_t(0));
     std::fill(redInk, redInk + (mWidth + 7) / 8, std::uint8_t(0));
-    gather(paper, red);
-    const RowOrder order = rowOrder(mRow, mWidth);
-    const std::size_t rights = mWidth - order.seam;
-    Amounts leftAhead;
-    Amounts rightAhead;
-    const auto pass = [&](std::size_t x, Amounts *ahead) {
-        const Dot dot = diffuse(x, {paper[x], red[x]}, order.step(x), ahead);
-        blackInk[x / 8] |= dot == Dot::Black ? bitOf(x) : std::uint8_t(0);
-        redInk[x / 8] |= dot == Dot::Red ? bitOf(x) : std::uint8_t(0);
-    };
-    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
-        if (i < order.seam) {
-            pass(order.inward ? i : order.seam - 1 - i, &leftAhead);
-        }
-        if (i < rights) {
-            pass(order.inward ? mWidth - 1 - i : order.seam + i, &rightAhead);
-        }
+    for (std::size_t x = 0; x < mShares.size(); ++x) {
+        const std::size_t nearest = std::clamp(x, kMargin, kMargin + mWidth - 1) - kMargin;
+        mShares[x] = {paper[nearest], red[nearest]};
     }
-    keepRest(leftAhead, rightAhead);
+    gather();
+    goThrough(blackInk, redInk);
     ++mRow;
 }
 

@@ -46,13 +46,15 @@ private:
     static Dot dotOf(const Amounts &due);
     static Amounts start(std::size_t x, std::size_t y);
 
-    void gather(const std::uint8_t *paper, const std::uint8_t *red);
-    Dot diffuse(std::size_t x, const Shares &shares, std::ptrdiff_t step, Amounts *ahead);
+    void gather();
+    Dot diffuse(std::size_t x, std::ptrdiff_t step, Amounts *ahead);
+    void goThrough(std::uint8_t *blackInk, std::uint8_t *redInk);
     void keepRest(const Amounts &left, const Amounts &right);
 
     std::size_t mWidth;
     std::size_t mRow = 0;
     DiffusionTable mTable;
+    std::vector<Shares> mShares; ///< With a margin on either side, as the errors.
     std::vector<Amounts> mErrors; ///< From above; while a row is gone through, what goes down.
     std::vector<Amounts> mAside; ///< And what goes beside; the first place is left of the page.
 };

@@ -134,8 +134,8 @@ WITH_AVX2 inline void separate(const Rgb &pixels, const BorderAvx2 &border, std:
 {
     const __m256i others = _mm256_max_epi16(pixels.green, pixels.blue);
     const __m256i excess = _mm256_subs_epu16(pixels.red, others);
-    const __m256i beyondTint = _mm256_subs_epu16(excess, _mm256_set1_epi16(15));
-    const __m256i pureRed = _mm256_srli_epi16(times(beyondTint, 17), 4);
+    const __m256i lacking = _mm256_sub_epi16(_mm256_set1_epi16(255), pixels.red);
+    const __m256i pureRed = _mm256_subs_epu16(excess, _mm256_srli_epi16(lacking, 3));
     const __m256i paper = _mm256_sub_epi16(greyOf(pixels), rounded256ths(times(pureRed, 77)));
     const __m256i black =
         _mm256_sub_epi16(_mm256_set1_epi16(255), _mm256_add_epi16(paper, pureRed));

@@ -22,6 +22,26 @@ constexpr int kCertain = 1 << 14;
 /// Pixels are taken by the group where that is faster.
 constexpr std::size_t kGroup = 16;
 
+/// Rows go on so far beyond the page on either side, with the tone of the outermost pixel. Where
+/// errors turn round, dots gather; nobody sees those.
+constexpr std::size_t kMargin = kGroup;
+
+/// What is left where a way ends goes on below, over so many pixels; in one place it would draw a
+/// line of dots.
+constexpr int kShares = 8;
+
+/// Gives each of these pixels its share of `rest`, beginning with `at`: calls give(pixel, share).
+/// The last pixel of the row gets what would go beyond.
+template <typename Give>
+void goOn(std::ptrdiff_t at, std::ptrdiff_t step, std::size_t width, int rest, Give give)
+{
+    const auto last = std::ptrdiff_t(width) - 1;
+    for (int share = kShares; share > 0; --share, at += step) {
+        give(std::clamp(at, std::ptrdiff_t(0), last), rest / share);
+        rest -= rest / share;
+    }
+}
+
 constexpr std::size_t wholeGroups(std::size_t width)
 {
     return (width + kGroup - 1) / kGroup * kGroup;
@@ -65,6 +85,15 @@ struct RowOrder
 
     /// +1 or -1: where the pixel's error is carried to.
     std::ptrdiff_t step(std::size_t x) const { return (x < seam) == inward ? 1 : -1; }
+
+    /// Where what is left of the way through the left side goes on to the right in the row below.
+    std::ptrdiff_t leftEnd() const { return inward ? std::ptrdiff_t(seam) : 1; }
+
+    /// And of the right side, where it goes on to the left.
+    std::ptrdiff_t rightEnd(std::size_t width) const
+    {
+        return (inward ? std::ptrdiff_t(seam) : std::ptrdiff_t(width) - 1) - 1;
+    }
 };
 
 /// The seam is near the middle and moves from row to row, so that it cannot be seen. A narrow page

@@ -174,15 +174,15 @@ void add(std::int16_t *error, int more)
     *error = std::int16_t(*error + more);
 }
 
-/// Nothing is lost: what is left where a side ends stays with its last pixel, and what would leave
-/// the page with the outermost one.
+/// Nothing is lost: what is left at the seam crosses it, and the sides of the row send all back.
 void keepRest(const DiffusionLine &line, const Ends &ends)
 {
     const RowOrder &order = line.order;
+    const auto give = [&line](std::ptrdiff_t x, int share) { add(&line.aside[x], share); };
     if (order.seam > 0) {
-        add(&line.aside[order.inward ? order.seam - 1 : 0], ends.left);
+        goOn(order.leftEnd(), 1, line.width, ends.left, give);
     }
-    add(&line.aside[order.inward ? order.seam : line.width - 1], ends.right);
+    goOn(order.rightEnd(line.width), -1, line.width, ends.right, give);
     add(&line.down[0], line.aside[-1]);
     add(&line.down[line.width - 1], line.aside[line.width]);
 }
@@ -201,14 +201,14 @@ RowOrder rowOrder(std::size_t row, std::size_t width)
 ErrorDiffusion::ErrorDiffusion(std::size_t width, const DiffusionTable &table)
     : mWidth(width)
     , mTable(table)
-    , mTones(wholeGroups(width), 255)
-    , mDown(wholeGroups(width))
-    , mAside(wholeGroups(width) + 2)
-    , mSums(wholeGroups(width))
-    , mWeights(wholeGroups(width))
-    , mInk(wholeGroups(width) / 8)
+    , mTones(wholeGroups(width + 2 * kMargin), 255)
+    , mDown(mTones.size())
+    , mAside(mTones.size() + 2)
+    , mSums(mTones.size())
+    , mWeights(mTones.size())
+    , mInk(mTones.size() / 8)
 {
-    for (std::size_t x = 0; x < width; ++x) {
+    for (std::size_t x = 0; x < mDown.size(); ++x) {
         mDown[x] = std::int16_t(startOf(kBlueNoise[kBlueNoiseSide - 1][x % kBlueNoiseSide]));
     }
 }
@@ -218,9 +218,20 @@ void ErrorDiffusion::apply(const std::uint8_t *grey, std::uint8_t *ink, Processo
     if (mWidth == 0) {
         return;
     }
-    std::copy(grey, grey + mWidth, mTones.begin());
-    const DiffusionLine line{mWidth,
-                             rowOrder(mRow, mWidth),
+    std::fill_n(mTones.begin(), kMargin, grey[0]);
+    std::copy_n(grey, mWidth, mTones.begin() + kMargin);
+    std::fill_n(mTones.begin() + std::ptrdiff_t(kMargin + mWidth), kMargin, grey[mWidth - 1]);
+    diffuse(path);
+    std::copy_n(mInk.begin() + kMargin / 8, (mWidth + 7) / 8, ink);
+    // What is right of the page is not part of it.
+    ink[(mWidth - 1) / 8] &= std::uint8_t(0xFF00U >> ((mWidth - 1) % 8 + 1));
+}
+
+void ErrorDiffusion::diffuse(ProcessorPath path)
+{
+    const std::size_t width = mWidth + 2 * kMargin;
+    const DiffusionLine line{width,
+                             rowOrder(mRow, width),
                              mTones.data(),
                              kBlueNoise[mRow % kBlueNoiseSide],
                              &mTable,
@@ -242,7 +253,6 @@ void ErrorDiffusion::apply(const std::uint8_t *grey, std::uint8_t *ink, Processo
     distribute(line);
 #endif
     keepRest(line, ends);
-    std::copy(mInk.begin(), mInk.begin() + std::ptrdiff_t((mWidth + 7) / 8), ink);
     ++mRow;
 }
 

@@ -27,6 +27,8 @@ public:
     void apply(const std::uint8_t *grey, std::uint8_t *ink, ProcessorPath path);
 
 private:
+    void diffuse(ProcessorPath path);
+
     std::size_t mWidth;
     std::size_t mRow = 0;
     DiffusionTable mTable;

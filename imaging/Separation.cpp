@@ -10,8 +10,6 @@
 namespace imaging {
 namespace {
 
-constexpr unsigned kTint = 15;
-
 /// 512ths of an amount, rounded down: as 16-bit lanes do it.
 unsigned part(unsigned amount, std::uint16_t of512)
 {
@@ -37,8 +35,9 @@ RedBorder redBorder(int redLevel)
 Shares sharesOf(unsigned red, unsigned green, unsigned blue, const RedBorder &border)
 {
     const unsigned excess = red - std::min(red, std::max(green, blue));
-    // 17/16 makes up for the tint taken away: pure red is all red.
-    const unsigned pureRed = ((excess - std::min(excess, kTint)) * 17) >> 4;
+    // Beside much black a little red is a tint of the grey.
+    const unsigned tint = (255 - red) / 8;
+    const unsigned pureRed = excess - std::min(excess, tint);
     const unsigned paper = greyOf(red, green, blue) - unsigned(greyOf(pureRed, 0, 0));
     const unsigned black = 255 - paper - pureRed;
     const unsigned toBlack =

@@ -32,10 +32,10 @@ RedBorder redBorder(int redLevel);
 
 /// The shares of a toned colour.
 ///
-/// Red ink is what red has beyond the stronger of green and blue, without the first 15 of 255, so
-/// that greys with a slight tint stay black. Paper makes up the colour's grey, black the rest: the
-/// three together are as dark as the colour. Then the border moves ink between red and black; the
-/// paper stays. Neutral colours have no red at any level.
+/// Red ink is what red has beyond the stronger of green and blue, less an eighth of what red lacks
+/// of 255, so that dark colours with a slight tint stay black. Paper makes up the colour's grey,
+/// black the rest: the three together are as dark as the colour. Then the border moves ink between
+/// red and black; the paper stays. Neutral colours have no red at any level.
 Shares sharesOf(unsigned red, unsigned green, unsigned blue, const RedBorder &border);
 
 /// Turns rows of red, green and blue into rows of shares. Immutable; any thread.

@@ -72,8 +72,10 @@ TEST(Separation, NeutralColorsHaveNoRedAtAnyLevel)
     }
 }
 
-TEST(Separation, ASlightTintHasNoRed)
+TEST(Separation, ADarkColorWithASlightTintHasNoRedButALightOneHas)
 {
+    EXPECT_EQ(sharesAt(255, 250, 250, 0).red, 5);
+    EXPECT_EQ(sharesAt(255, 250, 250, 0).black(), 0);
     EXPECT_EQ(sharesAt(140, 125, 128, 20).red, 0);
     EXPECT_GT(sharesAt(141, 125, 125, 20).red, 0);
 }
@@ -118,7 +120,7 @@ TEST(Separation, WhatPaperBlackAndRedCanMixIsMixedExactly)
     for (int paper = 0; paper <= 255; paper += 15) {
         for (int red = 0; red + paper <= 255; red += 15) {
             const Shares shares = sharesAt(red + paper, paper, paper, 0);
-            const int tinted = std::max(red - 15, 0) * 17 / 16;
+            const int tinted = std::max(red - (255 - red - paper) / 8, 0);
             ASSERT_EQ(shares.red, tinted);
             ASSERT_NEAR(shares.paper, paper + 0.3 * (red - tinted), 1.0);
         }
