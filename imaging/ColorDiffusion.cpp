@@ -9,139 +9,182 @@
 namespace imaging {
 namespace {
 
+using Plane = ColorDiffusion::Plane;
+
 /// Far from the paper's noise, so that the two have nothing to do with each other.
 constexpr std::size_t kRedOffset = kBlueNoiseSide / 2;
+
+enum Dot : std::uint16_t
+{
+    kPaperDot = 0,
+    kBlackDot = 1,
+    kRedDot = 2
+};
 
 int noisyStart(std::size_t x, std::size_t y)
 {
     return startOf(kBlueNoise[y % kBlueNoiseSide][x % kBlueNoiseSide]);
 }
 
-std::uint8_t bitOf(std::size_t x)
+void setShares(Plane *plane, const std::uint8_t *shares, std::size_t width)
 {
-    return std::uint8_t(0x80U >> (x % 8));
+    std::uint8_t *to = plane->shares.data();
+    std::fill_n(to, kMargin, shares[0]);
+    std::copy_n(shares, width, to + kMargin);
+    std::fill_n(to + kMargin + width, kMargin, shares[width - 1]);
+}
+
+void gather(Plane *plane)
+{
+    const std::size_t width = plane->shares.size();
+    const std::uint8_t *shares = plane->shares.data();
+    const std::int32_t *down = plane->down.data();
+    const std::int32_t *aside = plane->aside.data() + 1;
+    std::int32_t *sums = plane->sums.data();
+    for (std::size_t x = 0; x < width; ++x) {
+        sums[x] = shares[x] * 16 + errorFromAbove(down[x], aside[x], shares[x]);
+    }
+    std::fill(plane->aside.begin(), plane->aside.end(), 0);
+}
+
+/// What is carried along from pixel to pixel.
+struct Ahead
+{
+    std::int32_t paper = 0;
+    std::int32_t red = 0;
+};
+
+/// A row at work, with nothing between it and its numbers.
+class Row
+{
+public:
+    Row(Plane *paper, Plane *red, const DiffusionTable &table, std::size_t row, std::uint16_t *dots)
+        : mPaper(*paper)
+        , mRed(*red)
+        , mTable(table)
+        , mRow(row)
+        , mDots(dots)
+    { }
+
+    /// Chooses the pixel's dot and leaves its errors; `step` leads to the next pixel.
+    void pass(std::size_t x, std::ptrdiff_t step, Ahead *ahead)
+    {
+        const int paper = mPaper.shares[x];
+        const int red = mRed.shares[x];
+        const int black = 255 - paper - red;
+        const int most = std::max({paper, red, black});
+        if (most == 255) {
+            end(x, ahead);
+            return;
+        }
+        // Nothing is due of a colour that the pixel has no share of.
+        const int paperDue = paper == 0 ? 0 : mPaper.sums[x] + ahead->paper;
+        const int redSum = black == 0 ? kFull - paperDue : mRed.sums[x] + ahead->red;
+        const int redDue = red == 0 ? 0 : redSum;
+        const int blackDue = kFull - paperDue - redDue;
+        // Numbers, not branches: what a pixel takes cannot be guessed, and a processor that guesses
+        // loses more time than the pixel needs.
+        const int takesPaper = int(paperDue >= blackDue) & int(paperDue >= redDue);
+        const int takesRed = int(redDue > blackDue) & (1 - takesPaper);
+        mDots[x] = std::uint16_t((1 - takesPaper) << takesRed);
+        const DiffusionWeights weights = mTable[std::size_t(most)];
+        ahead->paper = leave(&mPaper, x, step, paperDue - takesPaper * kFull, weights);
+        ahead->red = leave(&mRed, x, step, redDue - takesRed * kFull, weights);
+    }
+
+private:
+    struct Errors
+    {
+        explicit Errors(Plane &plane)
+            : shares(plane.shares.data())
+            , sums(plane.sums.data())
+            , down(plane.down.data())
+            , aside(plane.aside.data() + 1)
+        { }
+
+        const std::uint8_t *shares;
+        const std::int32_t *sums;
+        std::int32_t *down;
+        std::int32_t *aside;
+    };
+
+    /// Pure colours: the error ends here.
+    void end(std::size_t x, Ahead *ahead)
+    {
+        mDots[x] = mPaper.shares[x] == 255 ? kPaperDot
+            : mRed.shares[x] == 255        ? kRedDot
+                                           : kBlackDot;
+        mPaper.down[x] = noisyStart(x, mRow);
+        mRed.down[x] = noisyStart(x + kRedOffset, mRow + kRedOffset);
+        *ahead = {};
+    }
+
+    /// What is carried ahead of the error.
+    static int leave(Errors *errors, std::size_t x, std::ptrdiff_t step, int error,
+                     const DiffusionWeights &weights)
+    {
+        const int ahead = (error * weights.ahead) >> 16;
+        const int behind = (error * weights.behind) >> 16;
+        errors->aside[std::ptrdiff_t(x) - step] += behind;
+        errors->down[x] = error - ahead - behind;
+        return ahead;
+    }
+
+    Errors mPaper;
+    Errors mRed;
+    const DiffusionTable &mTable;
+    std::size_t mRow;
+    std::uint16_t *mDots;
+};
+
+/// As in ErrorDiffusion.
+void keepRest(Plane *plane, const RowOrder &order, int left, int right)
+{
+    const std::size_t width = plane->shares.size();
+    const auto give = [plane](std::ptrdiff_t x, int share) {
+        plane->aside[std::size_t(x + 1)] += share;
+    };
+    if (order.seam > 0) {
+        goOn(order.leftEnd(), 1, width, left, give);
+    }
+    goOn(order.rightEnd(width), -1, width, right, give);
+    plane->down.front() += plane->aside.front();
+    plane->down.back() += plane->aside.back();
+}
+
+/// The bits of the pixels that are `dot`.
+void pack(const std::uint16_t *dots, Dot dot, std::size_t width, std::uint8_t *ink)
+{
+    for (std::size_t x = 0; x < width; x += 8) {
+        const std::size_t count = std::min<std::size_t>(8, width - x);
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            bits |= unsigned(dots[x + i] == dot) << (7 - i);
+        }
+        ink[x / 8] = std::uint8_t(bits);
+    }
 }
 
 } // namespace
 
+ColorDiffusion::Plane::Plane(std::size_t width)
+    : shares(width)
+    , sums(width)
+    , down(width)
+    , aside(width + 2)
+{ }
+
 ColorDiffusion::ColorDiffusion(std::size_t width, const DiffusionTable &table)
     : mWidth(width)
     , mTable(table)
-    , mShares(width + 2 * kMargin)
-    , mErrors(mShares.size())
-    , mAside(mShares.size() + 2)
+    , mPaper(width + 2 * kMargin)
+    , mRed(width + 2 * kMargin)
+    , mDots(width + 2 * kMargin)
 {
-    for (std::size_t x = 0; x < mErrors.size(); ++x) {
-        mErrors[x] = start(x, kBlueNoiseSide - 1);
+    for (std::size_t x = 0; x < mDots.size(); ++x) {
+        mPaper.down[x] = noisyStart(x, kBlueNoiseSide - 1);
+        mRed.down[x] = noisyStart(x + kRedOffset, kRedOffset - 1);
     }
-}
-
-ColorDiffusion::Amounts ColorDiffusion::start(std::size_t x, std::size_t y)
-{
-    return {noisyStart(x, y), noisyStart(x + kRedOffset, y + kRedOffset)};
-}
-
-void ColorDiffusion::gather()
-{
-    for (std::size_t x = 0; x < mErrors.size(); ++x) {
-        const Amounts down = mErrors[x];
-        const Amounts aside = mAside[x + 1];
-        mErrors[x] = {errorFromAbove(down.paper, aside.paper, mShares[x].paper),
-                      errorFromAbove(down.red, aside.red, mShares[x].red)};
-    }
-    std::fill(mAside.begin(), mAside.end(), Amounts());
-}
-
-/// What is due of paper and red; nothing is due of a colour that the pixel has no share of.
-ColorDiffusion::Amounts ColorDiffusion::due(const Shares &shares, const Amounts &errors)
-{
-    const int paper = shares.paper == 0 ? 0 : shares.paper * 16 + errors.paper;
-    if (shares.red == 0) {
-        return {paper, 0};
-    }
-    return {paper, shares.black() == 0 ? kFull - paper : shares.red * 16 + errors.red};
-}
-
-ColorDiffusion::Dot ColorDiffusion::dotOf(const Amounts &due)
-{
-    const int black = kFull - due.paper - due.red;
-    if (due.paper >= black && due.paper >= due.red) {
-        return Dot::Paper;
-    }
-    return due.red > black ? Dot::Red : Dot::Black;
-}
-
-ColorDiffusion::Dot ColorDiffusion::diffuse(std::size_t x, std::ptrdiff_t step, Amounts *ahead)
-{
-    const Shares shares = mShares[x];
-    const std::uint8_t most = std::max({shares.paper, shares.red, shares.black()});
-    if (most == 255) {
-        *ahead = {};
-        mErrors[x] = start(x, mRow);
-        return shares.paper == 255 ? Dot::Paper : shares.red == 255 ? Dot::Red : Dot::Black;
-    }
-    const Amounts sum = due(shares, {mErrors[x].paper + ahead->paper, mErrors[x].red + ahead->red});
-    const Dot dot = dotOf(sum);
-    const Amounts error{sum.paper - (dot == Dot::Paper ? kFull : 0),
-                        sum.red - (dot == Dot::Red ? kFull : 0)};
-    const DiffusionWeights weights = mTable[most];
-    *ahead = {(error.paper * weights.ahead) >> 16, (error.red * weights.ahead) >> 16};
-    const Amounts behind{(error.paper * weights.behind) >> 16, (error.red * weights.behind) >> 16};
-    Amounts &aside = mAside[std::size_t(std::ptrdiff_t(x + 1) - step)];
-    aside = {aside.paper + behind.paper, aside.red + behind.red};
-    mErrors[x] = {error.paper - ahead->paper - behind.paper, error.red - ahead->red - behind.red};
-    return dot;
-}
-
-/// As in ErrorDiffusion.
-void ColorDiffusion::keepRest(const Amounts &left, const Amounts &right)
-{
-    const std::size_t width = mShares.size();
-    const RowOrder order = rowOrder(mRow, width);
-    const auto paper = [this](std::ptrdiff_t x, int share) {
-        mAside[std::size_t(x + 1)].paper += share;
-    };
-    const auto red = [this](std::ptrdiff_t x, int share) {
-        mAside[std::size_t(x + 1)].red += share;
-    };
-    if (order.seam > 0) {
-        goOn(order.leftEnd(), 1, width, left.paper, paper);
-        goOn(order.leftEnd(), 1, width, left.red, red);
-    }
-    goOn(order.rightEnd(width), -1, width, right.paper, paper);
-    goOn(order.rightEnd(width), -1, width, right.red, red);
-    const auto add = [](Amounts *error, const Amounts &more) {
-        *error = {error->paper + more.paper, error->red + more.red};
-    };
-    add(&mErrors.front(), mAside.front());
-    add(&mErrors.back(), mAside.back());
-}
-
-void ColorDiffusion::goThrough(std::uint8_t *blackInk, std::uint8_t *redInk)
-{
-    const std::size_t width = mShares.size();
-    const RowOrder order = rowOrder(mRow, width);
-    const std::size_t rights = width - order.seam;
-    Amounts leftAhead;
-    Amounts rightAhead;
-    const auto pass = [&](std::size_t x, Amounts *ahead) {
-        const Dot dot = diffuse(x, order.step(x), ahead);
-        // Left of the page this is a number beyond its width, too.
-        const std::size_t place = x - kMargin;
-        if (place < mWidth) {
-            blackInk[place / 8] |= dot == Dot::Black ? bitOf(place) : std::uint8_t(0);
-            redInk[place / 8] |= dot == Dot::Red ? bitOf(place) : std::uint8_t(0);
-        }
-    };
-    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
-        if (i < order.seam) {
-            pass(order.inward ? i : order.seam - 1 - i, &leftAhead);
-        }
-        if (i < rights) {
-            pass(order.inward ? width - 1 - i : order.seam + i, &rightAhead);
-        }
-    }
-    keepRest(leftAhead, rightAhead);
 }
 
 void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
@@ -150,15 +193,39 @@ void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
     if (mWidth == 0) {
         return;
     }
-    std::fill(blackInk, blackInk + (mWidth + 7) / 8, std::uint8_t(0));
-    std::fill(redInk, redInk + (mWidth + 7) / 8, std::uint8_t(0));
-    for (std::size_t x = 0; x < mShares.size(); ++x) {
-        const std::size_t nearest = std::clamp(x, kMargin, kMargin + mWidth - 1) - kMargin;
-        mShares[x] = {paper[nearest], red[nearest]};
-    }
-    gather();
-    goThrough(blackInk, redInk);
+    setShares(&mPaper, paper, mWidth);
+    setShares(&mRed, red, mWidth);
+    gather(&mPaper);
+    gather(&mRed);
+    goThrough();
+    pack(mDots.data() + kMargin, kBlackDot, mWidth, blackInk);
+    pack(mDots.data() + kMargin, kRedDot, mWidth, redInk);
     ++mRow;
+}
+
+void ColorDiffusion::goThrough()
+{
+    const std::size_t width = mDots.size();
+    const RowOrder order = rowOrder(mRow, width);
+    const std::size_t rights = width - order.seam;
+    const std::ptrdiff_t step = order.inward ? 1 : -1;
+    Row row(&mPaper, &mRed, mTable, mRow, mDots.data());
+    std::size_t left = order.inward ? 0 : order.seam - 1;
+    std::size_t right = order.inward ? width - 1 : order.seam;
+    Ahead leftAhead;
+    Ahead rightAhead;
+    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
+        if (i < order.seam) {
+            row.pass(left, step, &leftAhead);
+            left += std::size_t(step);
+        }
+        if (i < rights) {
+            row.pass(right, -step, &rightAhead);
+            right -= std::size_t(step);
+        }
+    }
+    keepRest(&mPaper, order, leftAhead.paper, rightAhead.paper);
+    keepRest(&mRed, order, leftAhead.red, rightAhead.red);
 }
 
 } // namespace imaging
