@@ -107,13 +107,6 @@ void distribute8(const DiffusionLine &line, std::size_t x, __m128i sum, std::ptr
     store(line.down + x, chosen(extreme, starts(line, x), down));
 }
 
-/// What black and white leave below.
-void distributeNothing8(const DiffusionLine &line, std::size_t x, std::ptrdiff_t back)
-{
-    store(line.aside + std::ptrdiff_t(x) + back, _mm_setzero_si128());
-    store(line.down + x, starts(line, x));
-}
-
 void distributeGroup(const DiffusionLine &line, std::size_t x, std::ptrdiff_t back)
 {
     const __m128i left = load(line.sums + x);
@@ -122,11 +115,6 @@ void distributeGroup(const DiffusionLine &line, std::size_t x, std::ptrdiff_t ba
     const unsigned bits = unsigned(_mm_movemask_epi8(_mm_packs_epi16(left, right)));
     line.ink[x / 8] = kReversed[bits & 0xFF];
     line.ink[x / 8 + 1] = kReversed[bits >> 8];
-    if (allExtremeSse2(line.tones + x)) {
-        distributeNothing8(line, x, back);
-        distributeNothing8(line, x + 8, back);
-        return;
-    }
     distribute8(line, x, left, back);
     distribute8(line, x + 8, right, back);
 }
