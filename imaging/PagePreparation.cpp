@@ -127,19 +127,29 @@ public:
         mScreen.apply(mRow, mPaper.data(), mWidth, red, mPath);
         mScreen.apply(mRow, mRed.data(), mWidth, black, mPath);
         ++mRow;
-        for (std::size_t i = 0; i < (mWidth + 7) / 8; ++i) {
-            const unsigned ink = red[i];
-            black[i] = std::uint8_t(black[i] & ink);
-            red[i] = std::uint8_t(ink & ~unsigned(black[i]));
-        }
+        divideInk(black, red);
     }
 
 private:
+    /// `red` has all ink, `black` what falls below in the second row.
+    void divideInk(std::uint8_t *black, std::uint8_t *red) const
+    {
+        const std::size_t count = (mWidth + 7) / 8;
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::uint8_t ink = red[i];
+            black[i] &= ink;
+            red[i] = ink ^ black[i];
+        }
+    }
+
     /// The ink of a pixel is red where it has more red than black, else black.
     void divideWhole()
     {
+        const std::uint8_t *paper = mPaper.data();
+        std::uint8_t *red = mRed.data();
         for (std::size_t x = 0; x < mWidth; ++x) {
-            mRed[x] = mRed[x] > 255 - mPaper[x] - mRed[x] ? 255 : 0;
+            const auto black = std::uint8_t(255 - paper[x] - red[x]);
+            red[x] = red[x] > black ? 255 : 0;
         }
     }
 
@@ -147,8 +157,10 @@ private:
     /// black.
     void divideByShare()
     {
+        const std::uint8_t *paper = mPaper.data();
+        std::uint8_t *red = mRed.data();
         for (std::size_t x = 0; x < mWidth; ++x) {
-            mRed[x] = std::uint8_t(mPaper[x] + mRed[x]);
+            red[x] = std::uint8_t(paper[x] + red[x]);
         }
     }
 
