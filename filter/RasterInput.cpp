@@ -29,6 +29,21 @@ unsigned number(std::span<const std::uint8_t> bytes, bool isBigEndian)
     return value;
 }
 
+/// An enumeration that a file has filled holds any number, which must not be read as one of it.
+template <typename Enumeration> bool isAtMost(const Enumeration &field, Enumeration highest)
+{
+    unsigned value = 0;
+    static_assert(sizeof(field) == sizeof(value));
+    std::memcpy(&value, &field, sizeof(value));
+    return value <= static_cast<unsigned>(highest);
+}
+
+bool isPage(const cups_page_header2_t &header)
+{
+    return header.cupsWidth > 0 && isAtMost(header.cupsColorOrder, CUPS_ORDER_PLANAR)
+        && isAtMost(header.cupsColorSpace, CUPS_CSPACE_DEVICEF);
+}
+
 } // namespace
 
 RasterInput::RasterInput(int file)
@@ -109,7 +124,7 @@ RasterInput::State RasterInput::nextPage()
     if (checkSize() == State::Failed) {
         return State::Failed;
     }
-    if (cupsRasterReadHeader2(mRaster.get(), &mHeader) == 0 || mHeader.cupsWidth == 0) {
+    if (cupsRasterReadHeader2(mRaster.get(), &mHeader) == 0 || !isPage(mHeader)) {
         return fail("the header of page " + std::to_string(mPage)
                     + " is damaged: its size, bits and colours do not make a page");
     }

@@ -78,15 +78,12 @@ private:
 
 /// ZPL: hexadecimal digits with counts before them (G = 1 .. Y = 19, g = 20 .. z = 400), a comma
 /// for zeros to the end of the row, a colon for the row above once more.
-Bytes zplDots(const std::string &zpl)
+Bytes zplLabel(Commands &commands)
 {
-    Commands commands(zpl);
-    EXPECT_TRUE(commands.skipTo("~DGR:CUPS.GRF,"));
     const std::size_t total = commands.number();
     commands.next();
     const std::size_t row = commands.number();
     commands.next();
-    EXPECT_EQ(row, kRow);
     std::string digits;
     std::size_t count = 0;
     const auto pad = [&](std::size_t to) { digits.append(to - digits.size() % to, '0'); };
@@ -108,6 +105,18 @@ Bytes zplDots(const std::string &zpl)
     Bytes dots;
     for (std::size_t i = 0; i < digits.size(); i += 2) {
         dots.push_back(std::uint8_t(std::stoi(digits.substr(i, 2), nullptr, 16)));
+    }
+    return dots;
+}
+
+/// The dots of all labels, one after the other.
+Bytes zplDots(const std::string &zpl)
+{
+    Commands commands(zpl);
+    Bytes dots;
+    while (commands.skipTo("~DGR:CUPS.GRF,")) {
+        const Bytes label = zplLabel(commands);
+        dots.insert(dots.end(), label.begin(), label.end());
     }
     return dots;
 }
@@ -168,7 +177,7 @@ TEST_P(StockChain, PrintsTheDotsOfTheImagingLibrary)
 {
     const std::string ppd = stockPpd(GetParam().printer);
     FilterProcess graphics(LABELGRAPHICS, ppd);
-    const FilterProcess label(RASTERTOLABEL, ppd);
+    const FilterProcess label(STOCK_FILTERS "rastertolabel", ppd);
     const TestPage page = greyPage(kWidth, kHeight);
     for (const char *method : {"Binary", "Dither", "ErrorDiffusion"}) {
         graphics.options = std::string("CvBrightness=4 CvHalftonePattern=") + method;
@@ -190,5 +199,48 @@ INSTANTIATE_TEST_SUITE_P(All, StockChain,
                                          Language{"zebraep2", epl2Dots},
                                          Language{"zebracpl", cpclDots}),
                          [](const auto &language) { return language.param.printer; });
+
+struct Document
+{
+    const char *name;
+    const char *rasterizer;
+    const char *file;
+    std::size_t pages;
+};
+
+class StockDocument : public testing::TestWithParam<Document>
+{ };
+
+TEST_P(StockDocument, IsPrintedWithTheDotsOfTheImagingLibrary)
+{
+    const std::string ppd = stockPpd("zebra");
+    FilterProcess rasterizer(GetParam().rasterizer, ppd);
+    rasterizer.file = GetParam().file;
+    const FilterResult raster = rasterizer.run("");
+    const std::vector<TestPage> pages = pagesOf(raster.output);
+    ASSERT_EQ(pages.size(), GetParam().pages) << raster.log;
+
+    FilterProcess graphics(LABELGRAPHICS, ppd);
+    graphics.options = "CvContrast=6";
+    const FilterProcess label(STOCK_FILTERS "rastertolabel", ppd);
+    imaging::PageSettings settings;
+    settings.contrast = 6;
+    Bytes expected;
+    for (const TestPage &page : pages) {
+        const Bytes dots = dotsOf(page, settings).black;
+        expected.insert(expected.end(), dots.begin(), dots.end());
+    }
+    EXPECT_EQ(zplDots(label.run(graphics.run(raster.output).output).output), expected);
+    // There is something on the label.
+    EXPECT_NE(expected, Bytes(expected.size()));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, StockDocument,
+                         testing::Values(Document{"Picture", STOCK_FILTERS "imagetoraster",
+                                                  SOURCE_DIR "/resources/images/Effect.png", 1},
+                                         Document{"Pdf", STOCK_FILTERS "pdftoraster",
+                                                  SOURCE_DIR "/resources/sample/sample-label.pdf",
+                                                  2}),
+                         [](const auto &document) { return document.param.name; });
 
 } // namespace
