@@ -9,7 +9,6 @@
 #include <stdexcept>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -73,13 +72,17 @@ int FilterProcess::start(int input, int output, const std::string &logPath) cons
 FilterResult FilterProcess::wait(int process)
 {
     int status = 0;
-    struct rusage usage
-    { };
-    wait4(process, &status, 0, &usage);
+    waitpid(process, &status, 0);
     FilterResult result;
     result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-    result.peakKiB = usage.ru_maxrss;
     return result;
+}
+
+long FilterProcess::peakKiB(int process)
+{
+    const std::string status = contentsOf("/proc/" + std::to_string(process) + "/status");
+    const std::string keyword = "VmHWM:";
+    return std::stol(status.substr(status.find(keyword) + keyword.size()));
 }
 
 FilterResult FilterProcess::run(const std::string &input) const

@@ -29,7 +29,6 @@ struct FilterResult
     int status = -1; ///< the exit status, or minus the number of the signal that ended it
     std::string output;
     std::string log;
-    long peakKiB = 0; ///< the most memory that it had
 };
 
 /// Filters as the scheduler starts them: a PPD in the environment, six or seven arguments.
@@ -53,6 +52,10 @@ public:
     /// Ended with wait().
     int start(int input, int output, const std::string &logPath) const;
     static FilterResult wait(int process);
+
+    /// The most memory that a running process has had so far. Not that of wait4(), to which the
+    /// test program adds its own.
+    static long peakKiB(int process);
 
     std::string ppdPath() const { return mFolder.path("printer.ppd"); }
 
