@@ -144,40 +144,43 @@ void LevelEntry::step(qint32 by)
 
 bool LevelEntry::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == slider()) {
-        if (event->type() == QEvent::EnabledChange) {
-            followSlider();
-        }
-        return false;
-    }
-    if (watched == mPanel.preview && event->type() == QEvent::Paint) {
+    if (watched == slider() && event->type() == QEvent::EnabledChange) {
+        followSlider();
+    } else if (watched == mPanel.preview && event->type() == QEvent::Paint) {
         mPanel.typing(isTyping());
+    } else if (watched == field() && event->type() == QEvent::ShortcutOverride) {
+        return overrideShortcut(static_cast<QKeyEvent *>(event));
+    } else if (watched == field() && event->type() == QEvent::KeyPress) {
+        return takeKey(static_cast<QKeyEvent *>(event));
     }
-    if (watched != field()) {
-        return false;
-    }
-    const auto *key = static_cast<const QKeyEvent *>(event);
-    if (event->type() == QEvent::ShortcutOverride && overridesShortcut(key->key())) {
-        event->accept();
-        return true;
-    }
-    if (event->type() != QEvent::KeyPress || !field()->isEnabled() || field()->isReadOnly()) {
-        return false;
-    }
-    const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (isReturn && isTyping()) {
-        // The field ends the edit. The dialog does not hear of it: a job begins with the next one.
-        watched->event(event);
-        event->accept();
-        return true;
-    }
-    const bool plain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    return plain && handleKey(key->key());
+    return false;
 }
 
-bool LevelEntry::overridesShortcut(int key) const
+bool LevelEntry::takeKey(QKeyEvent *event)
 {
-    return isTyping() && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
+    if (!field()->isEnabled() || field()->isReadOnly()) {
+        return false;
+    }
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && isTyping()) {
+        // The field ends the edit. The dialog does not hear of it: a job begins with the next one.
+        static_cast<QObject *>(field())->event(event);
+        event->accept();
+        return true;
+    }
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return plain && handleKey(event->key());
+}
+
+bool LevelEntry::overrideShortcut(QKeyEvent *event) const
+{
+    const bool endsTyping = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return
+        || event->key() == Qt::Key_Enter;
+    if (isTyping() && endsTyping) {
+        event->accept();
+        return true;
+    }
+    return false;
 }
 
 bool LevelEntry::handleKey(int key)

@@ -9,6 +9,8 @@
 
 #include <functional>
 
+class QKeyEvent;
+
 namespace graphics {
 
 /// Lets a person type a level into the number field beside its slider.
@@ -51,8 +53,9 @@ private:
     QLineEdit *field() const;
     QSlider *slider() const;
     bool isTyping() const;
+    bool takeKey(QKeyEvent *event);
+    bool overrideShortcut(QKeyEvent *event) const;
     bool handleKey(int key);
-    bool overridesShortcut(int key) const;
     void step(qint32 by);
     void setLevel(qint32 level);
     void showLevel();
