@@ -181,6 +181,25 @@ TEST_P(PageKind, BlackAndWhiteStayAsTheyAre)
     EXPECT_EQ(dots.red, Bytes(expected.size(), 0));
 }
 
+TEST_P(PageKind, BlackAndWhiteStayAmongOtherTonesToo)
+{
+    const std::size_t width = 211;
+    Bytes pixels = randomBytes(&random, width * 60 * samples());
+    Bytes kinds;
+    for (std::size_t i = 0; i < width * 60; ++i) {
+        kinds.push_back(std::uint8_t(random() % 3));
+        if (kinds.back() < 2) {
+            std::fill_n(pixels.begin() + std::ptrdiff_t(i * samples()), samples(),
+                        std::uint8_t(kinds.back() == 0 ? 0 : 255));
+        }
+    }
+    const Dots dots = prepared(settings(), pixels, width, format());
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        ASSERT_FALSE(kinds[i] == 0 && dots.black[i] == 0) << i;
+        ASSERT_FALSE(kinds[i] == 1 && (dots.black[i] == 1 || dots.red[i] == 1)) << i;
+    }
+}
+
 TEST_P(PageKind, OnePixelIsAPage)
 {
     EXPECT_EQ(prepared(settings(), Bytes(samples(), 0), 1, format()).black, Bytes{1});
@@ -206,6 +225,9 @@ TEST_P(PageKind, RefusesRoomThatDoesNotFitAndTouchesNothing)
     Bytes red(6, 0xA5);
     EXPECT_FALSE(page.rows(half, black, red));
     EXPECT_FALSE(page.rows(pixels, std::span(black).first(5), red));
+    Bytes more(7, 0xA5);
+    EXPECT_FALSE(page.rows(pixels, more, red));
+    EXPECT_EQ(more, Bytes(7, 0xA5));
     EXPECT_FALSE(page.rows(pixels, black, std::span(red).first(3)));
     EXPECT_FALSE(page.row(pixels, black, red));
     EXPECT_EQ(black, Bytes(6, 0xA5));
