@@ -56,7 +56,7 @@ struct Rgb
     __m256i blue;
 };
 
-/// The bytes of one colour out of 48 bytes of pixels; `picks` say where they stand in each 16.
+/// The bytes of one colour out of 48 bytes of pixels; each pick says where they stand in its 16.
 WITH_AVX2 inline __m128i picked(const __m128i (&bytes)[3], __m128i first, __m128i second,
                                 __m128i third)
 {
@@ -74,7 +74,7 @@ WITH_AVX2 inline __m256i tonedBytes(__m128i bytes, const ToneAvx2 &tones)
 WITH_AVX2 inline Rgb tonedPixels(const std::uint8_t *rgb, const ToneAvx2 &tones)
 {
     __m128i bytes[3];
-    for (int i = 0; i < 3; ++i) {
+    for (std::size_t i = 0; i < 3; ++i) {
         bytes[i] = _mm_loadu_si128(reinterpret_cast<const __m128i *>(rgb + i * 16));
     }
     const __m128i red =

@@ -2,6 +2,7 @@
 #include "imaging/DiffusionWeights.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <iterator>
 
@@ -25,7 +26,7 @@ constexpr Key kKeys[] = {
 
 std::uint16_t out65536(double part)
 {
-    return std::uint16_t(part * 65536.0 + 0.5);
+    return std::uint16_t(std::lround(part * 65536.0));
 }
 
 DiffusionWeights mixed(int tone)
