@@ -126,7 +126,7 @@ TEST_F(FilterChain, TheStockFilterGetsRasterOf1BitAsItDidWithoutTheOptions)
 {
     const std::string original =
         StockDrivers().ppd(QStringLiteral("drv:///sample.drv/zebra.ppd")).toStdString();
-    mServer.addFilter(QStringLiteral("labelgraphics"), QStringLiteral(STAND_IN_LABELGRAPHICS));
+    mServer.addFilter(QStringLiteral("labelgraphics"), QStringLiteral(LABELGRAPHICS));
     addQueue("Before", original);
     addQueue("After", added(original));
     const QStringList dark{QStringLiteral("Darkness=20"), QStringLiteral("zePrintRate=5")};
@@ -147,6 +147,25 @@ TEST_F(FilterChain, TheStockFilterGetsRasterOf1BitAsItDidWithoutTheOptions)
     EXPECT_EQ(found(after), found(before));
     // The page came by labelgraphics: its dots are others than those of gstoraster.
     EXPECT_NE(after, before);
+}
+
+TEST_F(FilterChain, ThePrintersFilterGetsDotsAsTheOptionsOfTheJobAskForThem)
+{
+    mServer.addFilter(QStringLiteral("labelgraphics"), QStringLiteral(LABELGRAPHICS));
+    addScript("keep", kPass);
+    addQueue("Labels", added(keepingPpd()));
+    const Page plain = firstPage(printed("Labels", kDocument));
+    const Page binary =
+        firstPage(printed("Labels", kDocument, {QStringLiteral("CvHalftonePattern=Binary")}));
+    EXPECT_EQ(plain.header.cupsBitsPerPixel, 1U);
+    EXPECT_EQ(plain.header.cupsColorSpace, CUPS_CSPACE_K);
+    EXPECT_EQ(plain.header.cupsBytesPerLine, (plain.header.cupsWidth + 7) / 8);
+    EXPECT_EQ(binary.pixels.size(), plain.pixels.size());
+    EXPECT_NE(binary.pixels, plain.pixels);
+    const Page darkest = firstPage(
+        printed("Labels", kDocument,
+                {QStringLiteral("CvHalftonePattern=Binary"), QStringLiteral("CvBrightness=-20")}));
+    EXPECT_NE(darkest.pixels, binary.pixels);
 }
 
 TEST_F(FilterChain, LabelgraphicsGetsPagesIn8BitGrey)
