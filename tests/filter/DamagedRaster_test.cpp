@@ -155,6 +155,7 @@ TEST(DamagedRaster, RefusesPixelsThatCannotBePrepared)
                                  pageOf(8, CUPS_CSPACE_SRGB, 3, CUPS_ORDER_BANDED, 9, 3),
                                  pageOf(8, CUPS_CSPACE_SRGB, 3, CUPS_ORDER_PLANAR, 9, 3),
                                  pageOf(8, CUPS_CSPACE_RGBA, 4, CUPS_ORDER_CHUNKED, 9, 3),
+                                 pageOf(8, CUPS_CSPACE_W, 3, CUPS_ORDER_PLANAR, 9, 3),
                                  pageOf(2, CUPS_CSPACE_W, 1, CUPS_ORDER_CHUNKED, 9, 3)}) {
         const Printed run(rasterOf({greyPage(5, 5), page}));
         EXPECT_EQ(run.outcome, Outcome::Failed);
