@@ -144,16 +144,25 @@ void LevelEntry::step(qint32 by)
 
 bool LevelEntry::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == slider() && event->type() == QEvent::EnabledChange) {
-        followSlider();
-    } else if (watched == mPanel.preview && event->type() == QEvent::Paint) {
-        mPanel.typing(isTyping());
-    } else if (watched == field() && event->type() == QEvent::ShortcutOverride) {
-        return overrideShortcut(static_cast<QKeyEvent *>(event));
-    } else if (watched == field() && event->type() == QEvent::KeyPress) {
-        return takeKey(static_cast<QKeyEvent *>(event));
+    // The kind comes first: a control that is being destroyed has events, but is none any more.
+    switch (event->type()) {
+    case QEvent::EnabledChange:
+        if (watched == slider()) {
+            followSlider();
+        }
+        return false;
+    case QEvent::Paint:
+        if (watched == mPanel.preview) {
+            mPanel.typing(isTyping());
+        }
+        return false;
+    case QEvent::ShortcutOverride:
+        return watched == field() && overrideShortcut(static_cast<QKeyEvent *>(event));
+    case QEvent::KeyPress:
+        return watched == field() && takeKey(static_cast<QKeyEvent *>(event));
+    default:
+        return false;
     }
-    return false;
 }
 
 bool LevelEntry::takeKey(QKeyEvent *event)
