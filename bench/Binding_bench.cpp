@@ -5,6 +5,7 @@
 // divided by the number that grows: it must not grow from row to row.
 #include "graphics_panel/GraphicsPDE.h"
 #include "platform/Bundle.h"
+#include "tests/support/MarkingHost.h"
 
 #include <QApplication>
 #include <QTemporaryFile>
@@ -87,49 +88,6 @@ private:
 
     QTemporaryFile mFile;
     ppd_file_t *mPpd = nullptr;
-};
-
-struct NoSettings : PMPrintSettings
-{
-    std::optional<QByteArray> value(const QString &) const override { return std::nullopt; }
-    PMResult<quint32> firstPage() const override { return {0, 1}; }
-    OSStatus setFirstPage(quint32) override { return 0; }
-    PMResult<quint32> lastPage() const override { return {0, 1}; }
-    OSStatus setLastPage(quint32) override { return 0; }
-    std::optional<QByteArray> dataRepresentation() const override { return std::nullopt; }
-};
-
-/// The least that a panel needs: it marks what it is asked to mark and tells the panel.
-class MarkingHost : public PDEPluginCallback13_v300_
-{
-public:
-    explicit MarkingHost(ppd_file_t *ppd)
-        : mPpd(ppd)
-    { }
-
-    PDEPanel *panel = nullptr;
-
-    PMPrintSession *printSession() const override { return nullptr; }
-    PMPrintSettings *printSettings() const override { return &mSettings; }
-    PMPageFormat *pageFormat() const override { return nullptr; }
-    ::PMPrinter *PMPrinter() const override { return nullptr; }
-    ppd_file_t *ppdFile() const override { return mPpd; }
-    bool respondsToSelector(QLatin1String) const override { return false; }
-
-    void willChangePPDOptionKeyValue(const QString &option,
-                                     const std::optional<QString> &ppdChoice) override
-    {
-        const QByteArray key = option.toUtf8();
-        const QByteArray choice = ppdChoice.value_or(QString()).toUtf8();
-        ppdMarkOption(mPpd, key.constData(), choice.constData());
-        if (panel) {
-            panel->PPDOptionKeyValueDidChange(option, ppdChoice);
-        }
-    }
-
-private:
-    ppd_file_t *mPpd;
-    mutable NoSettings mSettings;
 };
 
 /// A PPD with a host and the panel's bundle; panels are made from them.

@@ -1,24 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as a bundle's metadata: they are taken with names that are safe to use, or refused
 // with one sentence.
+#include "fuzz/Require.h"
 #include "loading/BundleMetadata.h"
 
 #include <QRegularExpression>
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

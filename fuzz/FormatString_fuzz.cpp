@@ -5,6 +5,7 @@
 // An input is the number of arguments (one byte), for each its type (0 none, 1 signed, 2 unsigned,
 // 3 real, 4 text) and value (eight bytes; of a text a length and as many bytes), and then the
 // format.
+#include "fuzz/Require.h"
 #include "platform/FormatString.h"
 
 #include <QByteArray>
@@ -13,7 +14,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
 using namespace platform;
@@ -24,13 +24,6 @@ constexpr std::size_t kMostArguments = 7;
 /// What one unit of a format can give without an argument's text: the largest width, or the digits
 /// of the largest real with the largest precision.
 constexpr qsizetype kMostOfAUnit = 4500;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 class Input
 {

@@ -8,6 +8,7 @@
 // entry, and then the edits: place and number of the characters to replace (one byte each), and
 // what is put in. A text is a length (one byte) and as many UTF-16 units.
 #include "controls/PDEFormatter.h"
+#include "fuzz/Require.h"
 #include "graphics_panel/LevelFormatter.h"
 #include "platform/Beep.h"
 #include "platform/TextEncodings.h"
@@ -15,20 +16,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 
 namespace {
 
 constexpr int kMostEntries = 8;
 constexpr qsizetype kLongestText = 2000;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 class Input
 {

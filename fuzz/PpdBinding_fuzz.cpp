@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as the printer's PPD, with a panel bound to it; the last bytes say what the user does.
+#include "fuzz/Require.h"
 #include "graphics_panel/GraphicsPDE.h"
 #include "platform/Bundle.h"
+#include "tests/support/MarkingHost.h"
 
 #include <QApplication>
 #include <QSet>
@@ -11,7 +13,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <stdexcept>
 #include <string_view>
 
@@ -19,59 +20,19 @@ namespace {
 
 constexpr std::size_t kActions = 6;
 
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
-
-struct NoTicket : PMPrintSettings
-{
-    std::optional<QByteArray> value(const QString &) const override { return std::nullopt; }
-    PMResult<quint32> firstPage() const override { return {0, 1}; }
-    OSStatus setFirstPage(quint32) override { return 0; }
-    PMResult<quint32> lastPage() const override { return {0, 1}; }
-    OSStatus setLastPage(quint32) override { return 0; }
-    std::optional<QByteArray> dataRepresentation() const override { return std::nullopt; }
-};
-
-/// Marks what it is asked to mark, which must be a choice of the PPD, and tells the panel.
-class MarkingHost : public PDEPluginCallback13_v300_
+/// What it is asked to mark must be a choice of the PPD.
+class CheckingHost : public MarkingHost
 {
 public:
-    explicit MarkingHost(ppd_file_t *ppd)
-        : mPpd(ppd)
-    { }
-
-    PDEPanel *panel = nullptr;
-
-    PMPrintSession *printSession() const override { return nullptr; }
-    PMPrintSettings *printSettings() const override { return &mSettings; }
-    PMPageFormat *pageFormat() const override { return nullptr; }
-    ::PMPrinter *PMPrinter() const override { return nullptr; }
-    ppd_file_t *ppdFile() const override { return mPpd; }
-    bool respondsToSelector(QLatin1String) const override { return false; }
+    using MarkingHost::MarkingHost;
 
     void willChangePPDOptionKeyValue(const QString &option,
                                      const std::optional<QString> &ppdChoice) override
     {
-        if (!ppdChoice) {
-            return;
-        }
-        const QByteArray key = option.toUtf8();
-        const QByteArray choice = ppdChoice->toUtf8();
-        ppd_option_t *record = ppdFindOption(mPpd, key.constData());
-        require(record && ppdFindChoice(record, choice.constData()));
-        ppdMarkOption(mPpd, key.constData(), choice.constData());
-        if (panel) {
-            panel->PPDOptionKeyValueDidChange(option, ppdChoice);
-        }
+        ppd_option_t *record = ppdFindOption(ppdFile(), option.toUtf8().constData());
+        require(record && ppdFindChoice(record, ppdChoice.value().toUtf8().constData()));
+        MarkingHost::willChangePPDOptionKeyValue(option, ppdChoice);
     }
-
-private:
-    ppd_file_t *mPpd;
-    mutable NoTicket mSettings;
 };
 
 /// Null when libcups refuses the bytes.
@@ -128,7 +89,7 @@ void act(GraphicsPDE13_v300_ &panel, QWidget &view, std::uint8_t action)
 void bindAndAct(ppd_file_t *ppd, std::basic_string_view<std::uint8_t> actions)
 {
     static platform::Bundle bundle(QStringLiteral(BUNDLE_DIR));
-    const auto host = std::make_shared<MarkingHost>(ppd);
+    const auto host = std::make_shared<CheckingHost>(ppd);
     const auto panel = std::make_shared<GraphicsPDE13_v300_>();
     panel->initWithCallback(host, &bundle);
     host->panel = panel.get();

@@ -3,12 +3,12 @@
 // chooses the settings and the raster that the printer's filter takes.
 #include "filter/GraphicsJob.h"
 #include "filter/MemoryFile.h"
+#include "fuzz/Require.h"
 
 #include <array>
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 #include <sys/resource.h>
@@ -17,13 +17,6 @@
 namespace {
 
 using filter::GraphicsJob;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 filter::JobSettings settingsOf(std::uint8_t choice)
 {

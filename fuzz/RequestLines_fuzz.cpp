@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as the lines of a session with the sample printer: each line gets exactly one reply,
 // and the session goes on.
+#include "fuzz/Require.h"
 #include "loading/BundleLoader.h"
 #include "tools/Dispatcher.h"
 
@@ -10,16 +11,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 QByteArray toLine(const QJsonObject &request)
 {

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as the extended ticket: whatever they are, the queries answer 0 and something that a
 // caller can use.
+#include "fuzz/Require.h"
 #include "ppd/ExtendedTicket.h"
 #include "ppd/TapeInfo.h"
+#include "tests/support/EmptyPrintSettings.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
 
-struct TicketSettings : PMPrintSettings
+struct TicketSettings : EmptyPrintSettings
 {
     explicit TicketSettings(QByteArray bytes)
         : ticket(std::move(bytes))
@@ -22,19 +23,7 @@ struct TicketSettings : PMPrintSettings
     {
         return key == ExtendedTicketKey ? std::optional(ticket) : std::nullopt;
     }
-    PMResult<quint32> firstPage() const override { return {0, 1}; }
-    OSStatus setFirstPage(quint32) override { return 0; }
-    PMResult<quint32> lastPage() const override { return {0, 1}; }
-    OSStatus setLastPage(quint32) override { return 0; }
-    std::optional<QByteArray> dataRepresentation() const override { return std::nullopt; }
 };
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 } // namespace
 
