@@ -111,8 +111,9 @@ void bindAndAct(ppd_file_t *ppd, std::basic_string_view<std::uint8_t> actions)
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    // Lives as long as the program: the fuzzer leaves it by exit().
-    static QApplication application(*argc, *argv);
+    // Never destroyed: the fuzzer leaves by exit(), when Qt's own statics are gone already.
+    static const auto *application = new QApplication(*argc, *argv);
+    require(application);
     return 0;
 }
 

@@ -60,8 +60,9 @@ const loading::BundleCode &bundleCode()
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    // Lives as long as the program: the fuzzer leaves it by exit().
-    static QApplication application(*argc, *argv);
+    // Never destroyed: the fuzzer leaves by exit(), when Qt's own statics are gone already.
+    static const auto *application = new QApplication(*argc, *argv);
+    require(application);
     return 0;
 }
 
