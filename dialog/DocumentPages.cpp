@@ -130,23 +130,36 @@ Failure DocumentPages::damagedPage(int page) const
 
 Result<QImage> DocumentPages::render(int page, const QSize &pixels) const
 {
+    return renderPart(page, pixels, QRect(QPoint(), pixels));
+}
+
+Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QRect &part) const
+{
     if (page < 0 || page >= pageCount()) {
         return documentFailure(mPath, tr("has no page %1").arg(page + 1));
     }
-    if (pixels.isEmpty() || pixels.width() > kLongestRenderedSide
-        || pixels.height() > kLongestRenderedSide) {
+    if (part.isEmpty() || part.width() > kLongestRenderedSide
+        || part.height() > kLongestRenderedSide || !QRect(QPoint(), pixels).contains(part)) {
         return documentFailure(
             mPath,
             tr("cannot be shown with %1 x %2 pixels").arg(pixels.width()).arg(pixels.height()));
     }
-    QImage image(pixels, QImage::Format_RGB32);
+    if (mKind == DocumentKind::Pdf
+        && qint64(pixels.width()) * pixels.height() > kMostPixelsOfPdfPage) {
+        return documentFailure(mPath,
+                               tr("page %1 has too many dots at this resolution; choose a lower "
+                                  "resolution or a shorter label")
+                                   .arg(page + 1));
+    }
+    QImage image(part.size(), QImage::Format_RGB32);
     if (image.isNull()) {
         return documentFailure(mPath, tr("there is not enough memory to show the page"));
     }
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (!mPages->paint(page, painter, QRectF(QPointF(), pixels))) {
+    painter.translate(-part.topLeft());
+    if (!mPages->paint(page, painter, QRectF(QPointF(), pixels), QRectF(part))) {
         return damagedPage(page);
     }
     painter.end();

@@ -39,6 +39,9 @@ public:
     /// The longest side of a picture that `render` makes, in pixels.
     static constexpr int kLongestRenderedSide = 8192;
 
+    /// A page of a PDF document is rendered as a whole, with no more pixels than these.
+    static constexpr qint64 kMostPixelsOfPdfPage = 100'000'000;
+
     /// Opens a PDF, PNG, JPEG, TIFF or SVG document; the content tells which, not the name.
     static Result<std::shared_ptr<const DocumentPages>> open(const QString &path);
 
@@ -58,6 +61,10 @@ public:
 
     /// Page `page`, counted from 0, on white, stretched to `pixels`.
     Result<QImage> render(int page, const QSize &pixels) const;
+
+    /// Page `page` as `render` would show it in `pixels`, of any size, but no more than `part` of
+    /// it, which lies within and has at most kLongestRenderedSide pixels on a side.
+    Result<QImage> renderPart(int page, const QSize &pixels, const QRect &part) const;
 
     /// The pages as a PDF document; a PDF document as it is.
     Result<QByteArray> toPdf() const;

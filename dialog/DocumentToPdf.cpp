@@ -67,7 +67,8 @@ bool paintPages(const PageSource &source, QPdfWriter &writer, std::vector<QSizeF
             return false;
         }
         painter.setRenderHint(QPainter::LosslessImageRendering);
-        if (!source.paint(page, painter, placeOnPaper(size))) {
+        const QRectF place = placeOnPaper(size);
+        if (!source.paint(page, painter, place, place)) {
             return false;
         }
         sizes.push_back(size);

@@ -134,7 +134,17 @@ QSizeF ImagePages::pageSize(int page) const
             picture.image.height() * kPointsPerInch / dots.height()};
 }
 
-bool ImagePages::paint(int page, QPainter &painter, const QRectF &target) const
+QImage ImagePages::smaller(const QImage &image, const QSize &size) const
+{
+    const QMutexLocker lock(&mMutex);
+    if (mSmaller.size() != size || mSmallerOf != image.cacheKey()) {
+        mSmaller = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        mSmallerOf = image.cacheKey();
+    }
+    return mSmaller;
+}
+
+bool ImagePages::paint(int page, QPainter &painter, const QRectF &target, const QRectF &) const
 {
     QImage image = decoded(page).image;
     if (image.isNull()) {
@@ -143,7 +153,7 @@ bool ImagePages::paint(int page, QPainter &painter, const QRectF &target) const
     const QSize wished = target.size().toSize();
     // Painting makes pictures smaller by leaving pixels out; fine lines would be lost.
     if (painter.paintEngine()->type() == QPaintEngine::Raster && wished.width() < image.width()) {
-        image = image.scaled(wished, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image = smaller(image, wished);
     }
     painter.drawImage(target, image);
     return true;

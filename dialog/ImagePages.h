@@ -35,7 +35,8 @@ public:
 
     int pageCount() const override { return mPageCount; }
     QSizeF pageSize(int page) const override;
-    bool paint(int page, QPainter &painter, const QRectF &target) const override;
+    bool paint(int page, QPainter &painter, const QRectF &target,
+               const QRectF &part) const override;
 
     /// Whether the print system's filters show this picture as it is shown here. They know no
     /// transparency, do not turn pictures upright and read the first picture of a file alone.
@@ -57,6 +58,7 @@ private:
     static QString damaged();
     Decoded decode(int page) const;
     Decoded decoded(int page) const;
+    QImage smaller(const QImage &image, const QSize &size) const;
     QSizeF resolution(const Decoded &picture) const;
 
     DocumentKind mKind;
@@ -65,6 +67,9 @@ private:
     mutable QMutex mMutex;
     /// The picture that was shown last: a window that changes its size asks for it often.
     mutable Decoded mLast;
+    /// The same made smaller, for the parts of a page that are painted one after the other.
+    mutable QImage mSmaller;
+    mutable qint64 mSmallerOf = 0;
 };
 
 } // namespace dialog

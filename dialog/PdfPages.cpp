@@ -50,16 +50,34 @@ QSizeF PdfPages::pageSize(int page) const
     return mDocument.pagePointSize(page).expandedTo(QSizeF(0, 0));
 }
 
-bool PdfPages::paint(int page, QPainter &painter, const QRectF &target) const
+// Qt's own rendering of a part is off by a pixel here and there, so parts are cut from the whole.
+QImage PdfPages::whole(int page, const QSize &size, bool inParts) const
 {
-    const QMutexLocker lock(&mMutex);
+    if (mLastPage == page && mLast.size() == size) {
+        return mLast;
+    }
     QPdfDocumentRenderOptions options;
     options.setRenderFlags(QPdfDocumentRenderOptions::RenderFlag::Annotations);
-    const QImage image = mDocument.render(page, target.size().toSize(), options);
+    const QImage image = mDocument.render(page, size, options);
+    mLast = inParts ? image : QImage();
+    mLastPage = page;
+    return image;
+}
+
+bool PdfPages::paint(int page, QPainter &painter, const QRectF &target, const QRectF &part) const
+{
+    const QMutexLocker lock(&mMutex);
+    const QSize size = target.size().toSize();
+    const QRect wanted = part.translated(-target.topLeft()).toAlignedRect() & QRect(QPoint(), size);
+    const QImage image = whole(page, size, wanted.size() != size);
     if (image.isNull()) {
         return false;
     }
-    painter.drawImage(target, image);
+    if (wanted.size() == size) {
+        painter.drawImage(target, image);
+    } else {
+        painter.drawImage(target.topLeft() + wanted.topLeft(), image.copy(wanted));
+    }
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QImage>
 #include <QMutex>
 #include <QPdfDocument>
 
@@ -26,15 +27,20 @@ public:
 
     int pageCount() const override;
     QSizeF pageSize(int page) const override;
-    bool paint(int page, QPainter &painter, const QRectF &target) const override;
+    bool paint(int page, QPainter &painter, const QRectF &target,
+               const QRectF &part) const override;
 
 private:
     explicit PdfPages(const QByteArray &content);
     QString loadError() const;
+    QImage whole(int page, const QSize &size, bool inParts) const;
 
     mutable QMutex mMutex;
     QBuffer mContent;
     mutable QPdfDocument mDocument;
+    /// The page of which a part was painted last; none after one that was painted at once.
+    mutable QImage mLast;
+    mutable int mLastPage = -1;
 };
 
 } // namespace dialog

@@ -54,7 +54,7 @@ QSizeF SvgPages::pageSize(int page) const
 }
 
 // The renderer belongs to its thread, so every call has its own.
-bool SvgPages::paint(int page, QPainter &painter, const QRectF &target) const
+bool SvgPages::paint(int page, QPainter &painter, const QRectF &target, const QRectF &) const
 {
     QSvgRenderer renderer;
     if (page != 0 || !renderer.load(mContent)) {

@@ -26,7 +26,8 @@ public:
 
     int pageCount() const override { return 1; }
     QSizeF pageSize(int page) const override;
-    bool paint(int page, QPainter &painter, const QRectF &target) const override;
+    bool paint(int page, QPainter &painter, const QRectF &target,
+               const QRectF &part) const override;
 
 private:
     SvgPages(const QByteArray &content, const QSizeF &size, bool stretched);

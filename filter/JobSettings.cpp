@@ -4,8 +4,8 @@
 #include "filter/GraphicsOptions.h"
 #include "filter/OpenPpd.h"
 #include "filter/PpdInput.h"
+#include "imaging/SettingTexts.h"
 
-#include <charconv>
 #include <cstring>
 #include <optional>
 #include <string_view>
@@ -50,37 +50,19 @@ public:
 
     imaging::HalftoneMethod halftone() const
     {
-        const std::string choice = marked("CvHalftonePattern");
-        if (choice == "Binary") {
-            return imaging::HalftoneMethod::Binary;
-        }
-        if (choice == "Dither") {
-            return imaging::HalftoneMethod::Dither;
-        }
-        check(choice, choice == "ErrorDiffusion", "CvHalftonePattern", "error diffusion");
-        return imaging::HalftoneMethod::ErrorDiffusion;
+        return known(imaging::halftoneMethodOf, "CvHalftonePattern", "error diffusion")
+            .value_or(imaging::HalftoneMethod::ErrorDiffusion);
     }
 
     int level(const char *keyword) const
     {
-        const std::string choice = marked(keyword);
-        const char *end = choice.data() + choice.size();
-        int level = 0;
-        const auto [rest, error] = std::from_chars(choice.data(), end, level);
-        const bool isLevel = error == std::errc() && rest == end && level >= imaging::kLowestLevel
-            && level <= imaging::kHighestLevel;
-        check(choice, isLevel, keyword, "0");
-        return isLevel ? level : 0;
+        return known(imaging::levelOf, keyword, "0").value_or(0);
     }
 
     imaging::ColorMode colorMode() const
     {
-        const std::string choice = marked("CvMultiColor");
-        if (choice == "CvMultiColorBlackRed") {
-            return imaging::ColorMode::BlackRed;
-        }
-        check(choice, choice == "CvMultiColorMonochrome", "CvMultiColor", "monochrome");
-        return imaging::ColorMode::Monochrome;
+        return known(imaging::colorModeOf, "CvMultiColor", "monochrome")
+            .value_or(imaging::ColorMode::Monochrome);
     }
 
 private:
@@ -91,15 +73,21 @@ private:
         return choice ? choice->choice : "";
     }
 
-    void check(const std::string &choice, bool isKnown, const std::string &keyword,
-               const std::string &instead) const
+    /// What the marked choice of `keyword` means to `meaning`; else a warning names what is used
+    /// instead.
+    template <class Value>
+    std::optional<Value> known(std::optional<Value> (*meaning)(std::string_view),
+                               const char *keyword, const std::string &instead) const
     {
+        const std::string choice = marked(keyword);
+        const std::optional<Value> value = meaning(choice);
         // A PPD without the option is none of label-ppd's, and has nothing to warn of.
-        if (!isKnown && ppdFindOption(mPpd, keyword.c_str())) {
+        if (!value && ppdFindOption(mPpd, keyword)) {
             mWarnings->push_back("The printer's PPD has \"" + choice.substr(0, kLongestValue)
                                  + "\" for " + keyword + ", which means nothing; " + instead
                                  + " is used.");
         }
+        return value;
     }
 
     ppd_file_t *mPpd;

@@ -41,6 +41,8 @@ struct PageSettings
     /// Moves the border between black and red: at -20 nothing is red, at +20 all that is reddish.
     /// What stays white does not depend on it. Without effect in Monochrome.
     int redLevel = 0;
+
+    bool operator==(const PageSettings &other) const = default;
 };
 
 } // namespace imaging

@@ -284,6 +284,10 @@
         <source>has a damaged page; save or export it once more</source>
         <translation>hat eine beschädigte Seite; speichern oder exportieren Sie es noch einmal</translation>
     </message>
+    <message>
+        <source>page %1 has too many dots at this resolution; choose a lower resolution or a shorter label</source>
+        <translation>Seite %1 hat bei dieser Auflösung zu viele Punkte; wählen Sie eine geringere Auflösung oder ein kürzeres Etikett</translation>
+    </message>
 </context>
 <context>
     <name>dialog::ExtendedTicket</name>

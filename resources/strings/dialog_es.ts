@@ -284,6 +284,10 @@
         <source>has a damaged page; save or export it once more</source>
         <translation>tiene una página dañada; guárdelo o expórtelo de nuevo</translation>
     </message>
+    <message>
+        <source>page %1 has too many dots at this resolution; choose a lower resolution or a shorter label</source>
+        <translation>la página %1 tiene demasiados puntos con esta resolución; elija una resolución menor o una etiqueta más corta</translation>
+    </message>
 </context>
 <context>
     <name>dialog::ExtendedTicket</name>

@@ -284,6 +284,10 @@
         <source>has a damaged page; save or export it once more</source>
         <translation>contient une page endommagée&#xa0;; enregistrez-le ou exportez-le de nouveau</translation>
     </message>
+    <message>
+        <source>page %1 has too many dots at this resolution; choose a lower resolution or a shorter label</source>
+        <translation>la page %1 a trop de points à cette résolution&#xa0;; choisissez une résolution plus faible ou une étiquette plus courte</translation>
+    </message>
 </context>
 <context>
     <name>dialog::ExtendedTicket</name>

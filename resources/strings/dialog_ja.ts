@@ -284,6 +284,10 @@
         <source>has a damaged page; save or export it once more</source>
         <translation>壊れたページがあります。もう一度保存またはエクスポートしてください</translation>
     </message>
+    <message>
+        <source>page %1 has too many dots at this resolution; choose a lower resolution or a shorter label</source>
+        <translation>%1 ページはこの解像度では点が多すぎます。低い解像度か短いラベルを選んでください</translation>
+    </message>
 </context>
 <context>
     <name>dialog::ExtendedTicket</name>
