@@ -214,6 +214,7 @@ void CupsServerFixture::makeTree() const
         QFile::link(QStringLiteral("/usr/lib/cups/") + QString::fromLatin1(name),
                     path("bin/") + QString::fromLatin1(name));
     }
+    QFile::link(QStringLiteral("/usr/lib/cups/backend/socket"), path("bin/backend/socket"));
 }
 
 void CupsServerFixture::writeConfiguration() const
@@ -303,11 +304,13 @@ void CupsServerFixture::addQueue(const QString &name)
     addQueue(name, file);
 }
 
-void CupsServerFixture::addQueue(const QString &name, const QString &ppdFile)
+void CupsServerFixture::addQueue(const QString &name, const QString &ppdFile,
+                                 const QString &printer)
 {
     administer(QStringLiteral("lpadmin"),
                {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-                QStringLiteral("labsink:") + path("out"), QStringLiteral("-P"), ppdFile});
+                printer.isEmpty() ? QStringLiteral("labsink:") + path("out") : printer,
+                QStringLiteral("-P"), ppdFile});
 }
 
 void CupsServerFixture::addRawQueue(const QString &name)
@@ -327,14 +330,18 @@ QStringList CupsServerFixture::Arrived::options() const
     return arguments.value(4).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+QString CupsServerFixture::log() const
+{
+    return QString::fromUtf8(contents(path("log/error_log")).right(4000));
+}
+
 CupsServerFixture::Arrived CupsServerFixture::arrived(int job) const
 {
     const QString base = path("out/") + QString::number(job);
     const QDeadlineTimer deadline(kPatience);
     while (!QFile::exists(base + QStringLiteral(".document"))) {
         if (deadline.hasExpired()) {
-            fail(QStringLiteral("job %1 does not arrive: ").arg(job)
-                 + QString::fromUtf8(contents(path("log/error_log")).right(4000)));
+            fail(QStringLiteral("job %1 does not arrive: ").arg(job) + log());
         }
         QThread::msleep(kPause);
     }

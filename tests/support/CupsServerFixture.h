@@ -27,8 +27,9 @@ public:
     /// A queue with the sample printer's PPD, changed so that documents reach the backend as they
     /// are.
     void addQueue(const QString &name);
-    /// A queue with the PPD at `ppdFile`, as it is.
-    void addQueue(const QString &name, const QString &ppdFile);
+    /// A queue with the PPD at `ppdFile`, as it is; for the printer at "socket://HOST:PORT" when
+    /// one is given.
+    void addQueue(const QString &name, const QString &ppdFile, const QString &printer = {});
     /// A queue without a PPD.
     void addRawQueue(const QString &name);
     void removeQueue(const QString &name);
@@ -61,6 +62,9 @@ public:
     /// The server lives but answers no more, until it is resumed.
     void freeze();
     void resume();
+
+    /// The end of the server's log, to say why something did not happen.
+    QString log() const;
 
 private:
     void makeTree() const;
