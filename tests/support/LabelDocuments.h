@@ -24,8 +24,8 @@ struct LabelCode
 /// What a label is like. Everything on it stands on whole dots.
 struct LabelLook
 {
-    /// Wide enough for 170 bar modules.
-    QSize dots{440, 780};
+    /// 2 x 4 inches. Wide enough for 180 bar modules.
+    QSize dots{406, 812};
     int dotsPerInch = 203;
     int pages = 1;
     /// The dots of a narrow bar, and of a module of a code in two dimensions.
