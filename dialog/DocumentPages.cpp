@@ -128,12 +128,28 @@ Failure DocumentPages::damagedPage(int page) const
     return documentFailure(mPath, tr("page %1 is damaged and cannot be shown").arg(page + 1));
 }
 
+std::shared_ptr<const PageSource> DocumentPages::pagesWith(Edges edges) const
+{
+    if (mKind != DocumentKind::Svg || edges == Edges::Smooth) {
+        return mPages;
+    }
+    const QMutexLocker lock(&mMutex);
+    if (!mHardPages) {
+        const Result<QByteArray> pdf = toPdf();
+        const Result<std::shared_ptr<const PageSource>> pages =
+            pdf ? PdfPages::open(pdf.value(), mPath) : pdf.failure();
+        mHardPages = pages ? pages.value() : mPages;
+    }
+    return mHardPages;
+}
+
 Result<QImage> DocumentPages::render(int page, const QSize &pixels) const
 {
     return renderPart(page, pixels, QRect(QPoint(), pixels));
 }
 
-Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QRect &part) const
+Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QRect &part,
+                                         Edges edges) const
 {
     if (page < 0 || page >= pageCount()) {
         return documentFailure(mPath, tr("has no page %1").arg(page + 1));
@@ -144,8 +160,9 @@ Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QR
             mPath,
             tr("cannot be shown with %1 x %2 pixels").arg(pixels.width()).arg(pixels.height()));
     }
-    if (mKind == DocumentKind::Pdf
-        && qint64(pixels.width()) * pixels.height() > kMostPixelsOfPdfPage) {
+    const bool isPdf =
+        mKind == DocumentKind::Pdf || (mKind == DocumentKind::Svg && edges == Edges::Hard);
+    if (isPdf && qint64(pixels.width()) * pixels.height() > kMostPixelsOfPdfPage) {
         return documentFailure(mPath,
                                tr("page %1 has too many dots at this resolution; choose a lower "
                                   "resolution or a shorter label")
@@ -157,9 +174,11 @@ Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QR
     }
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing,
+                           edges == Edges::Smooth);
     painter.translate(-part.topLeft());
-    if (!mPages->paint(page, painter, QRectF(QPointF(), pixels), QRectF(part))) {
+    if (!pagesWith(edges)->paint(page, painter, QRectF(QPointF(), pixels), QRectF(part))) {
         return damagedPage(page);
     }
     painter.end();

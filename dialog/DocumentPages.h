@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QImage>
+#include <QMutex>
 #include <QSizeF>
 #include <QString>
 
@@ -15,6 +16,13 @@
 namespace dialog {
 
 class PageSource;
+
+/// How the edges of type and shapes come out.
+enum class Edges
+{
+    Smooth, ///< with shades between, for a screen
+    Hard ///< each pixel has one colour or the other, for dots
+};
 
 /// A document as it is sent to the print system.
 struct PrintableDocument
@@ -64,7 +72,8 @@ public:
 
     /// Page `page` as `render` would show it in `pixels`, of any size, but no more than `part` of
     /// it, which lies within and has at most kLongestRenderedSide pixels on a side.
-    Result<QImage> renderPart(int page, const QSize &pixels, const QRect &part) const;
+    Result<QImage> renderPart(int page, const QSize &pixels, const QRect &part,
+                              Edges edges = Edges::Smooth) const;
 
     /// The pages as a PDF document; a PDF document as it is.
     Result<QByteArray> toPdf() const;
@@ -79,6 +88,7 @@ private:
     std::optional<Failure> read(const QByteArray &content);
     std::optional<Failure> readPicture(const QByteArray &content);
     Failure damagedPage(int page) const;
+    std::shared_ptr<const PageSource> pagesWith(Edges edges) const;
 
     QString mPath;
     QString mTitle;
@@ -86,6 +96,9 @@ private:
     QByteArray mContent;
     bool mPrintsAsItIs = false;
     std::shared_ptr<const PageSource> mPages;
+    mutable QMutex mMutex;
+    /// A drawing as PDF: Qt draws SVG with smooth edges only.
+    mutable std::shared_ptr<const PageSource> mHardPages;
 };
 
 } // namespace dialog

@@ -25,7 +25,8 @@ public:
     /// The size of page `page`, counted from 0, in points; empty when the page is damaged.
     virtual QSizeF pageSize(int page) const = 0;
 
-    /// Paints page `page` so that it fills `target`; what is transparent is left alone. No more
+    /// Paints page `page` so that it fills `target`; what is transparent is left alone. Edges are
+    /// as hard or smooth as the painter's hint Antialiasing asks for. No more
     /// than `part` of the target needs to be painted, more may be. False when the page is damaged;
     /// something of it may then have been painted.
     virtual bool paint(int page, QPainter &painter, const QRectF &target,

@@ -51,16 +51,19 @@ QSizeF PdfPages::pageSize(int page) const
 }
 
 // Qt's own rendering of a part is off by a pixel here and there, so parts are cut from the whole.
-QImage PdfPages::whole(int page, const QSize &size, bool inParts) const
+QImage PdfPages::whole(int page, const QSize &size, bool inParts, bool hardEdges) const
 {
-    if (mLastPage == page && mLast.size() == size) {
+    if (mLastPage == page && mLast.size() == size && mLastIsHard == hardEdges) {
         return mLast;
     }
     QPdfDocumentRenderOptions options;
-    options.setRenderFlags(QPdfDocumentRenderOptions::RenderFlag::Annotations);
+    using Flag = QPdfDocumentRenderOptions::RenderFlag;
+    options.setRenderFlags(hardEdges ? Flag::Annotations | Flag::TextAliased | Flag::PathAliased
+                                     : Flag::Annotations);
     const QImage image = mDocument.render(page, size, options);
     mLast = inParts ? image : QImage();
     mLastPage = page;
+    mLastIsHard = hardEdges;
     return image;
 }
 
@@ -69,7 +72,8 @@ bool PdfPages::paint(int page, QPainter &painter, const QRectF &target, const QR
     const QMutexLocker lock(&mMutex);
     const QSize size = target.size().toSize();
     const QRect wanted = part.translated(-target.topLeft()).toAlignedRect() & QRect(QPoint(), size);
-    const QImage image = whole(page, size, wanted.size() != size);
+    const QImage image =
+        whole(page, size, wanted.size() != size, !painter.testRenderHint(QPainter::Antialiasing));
     if (image.isNull()) {
         return false;
     }

@@ -33,7 +33,7 @@ public:
 private:
     explicit PdfPages(const QByteArray &content);
     QString loadError() const;
-    QImage whole(int page, const QSize &size, bool inParts) const;
+    QImage whole(int page, const QSize &size, bool inParts, bool hardEdges) const;
 
     mutable QMutex mMutex;
     QBuffer mContent;
@@ -41,6 +41,7 @@ private:
     /// The page of which a part was painted last; none after one that was painted at once.
     mutable QImage mLast;
     mutable int mLastPage = -1;
+    mutable bool mLastIsHard = false;
 };
 
 } // namespace dialog

@@ -70,12 +70,13 @@ int SheetPixels::bands() const
 Result<QImage> SheetPixels::pageWithin(const QRect &part) const
 {
     if (!mTurned) {
-        return mDocument->renderPart(mPage, mPlace.size(), part);
+        return mDocument->renderPart(mPage, mPlace.size(), part, Edges::Hard);
     }
     // A quarter turn counter-clockwise: the right edge of the page is at the top.
     const QRect upright(mPlace.height() - part.y() - part.height(), part.x(), part.height(),
                         part.width());
-    const Result<QImage> image = mDocument->renderPart(mPage, mPlace.size().transposed(), upright);
+    const Result<QImage> image =
+        mDocument->renderPart(mPage, mPlace.size().transposed(), upright, Edges::Hard);
     if (!image) {
         return image;
     }

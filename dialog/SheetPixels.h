@@ -22,7 +22,8 @@ struct PixelBand
 };
 
 /// A page of a document on its label as 8-bit pixels, one for each dot of the printer. What of the
-/// label no page covers is white.
+/// label no page covers is white. Type and shapes have hard edges: shades along them would be
+/// halftoned, and bars and thin letters come out ragged.
 ///
 /// It is rendered in bands that depend on the label alone, so that whoever asks gets the same
 /// pixels, and a long label takes the memory of a band. A value; any thread, a call may have to

@@ -193,6 +193,38 @@ TEST_F(SheetPixelsTest, PdfInPartsIsThePdfAtOnce)
     }
 }
 
+// The dark bars at the foot of the sample label.
+TEST_F(SheetPixelsTest, BarsAndTypeOfAPdfHaveHardEdges)
+{
+    const SheetPixels pixels(sampleLabel(), 0, {}, Scaling::ActualSize,
+                             form({176, 283}, ColorMode::Monochrome));
+    const auto band = pixels.band(0);
+    ASSERT_TRUE(band);
+    int dark = 0;
+    for (int y = 210; y < 255; ++y) {
+        for (int x = 0; x < 176; ++x) {
+            const int grey = band.value().bytes[std::size_t(y) * 176 + std::size_t(x)];
+            EXPECT_TRUE(grey == 0 || grey == 255) << x << ", " << y << ": " << grey;
+            dark += grey == 0;
+        }
+    }
+    EXPECT_GT(dark, 1000);
+}
+
+TEST_F(SheetPixelsTest, ShapesOfADrawingHaveHardEdges)
+{
+    const QByteArray disc = "<svg xmlns='http://www.w3.org/2000/svg' width='40mm' height='40mm' "
+                            "viewBox='0 0 40 40'><circle cx='20' cy='20' r='15'/></svg>";
+    const SheetPixels pixels(opened(disc), 0, {}, Scaling::ActualSize,
+                             form({113, 113}, ColorMode::Monochrome));
+    const auto band = pixels.band(0);
+    ASSERT_TRUE(band);
+    const auto &bytes = band.value().bytes;
+    const auto black = std::count(bytes.begin(), bytes.end(), 0);
+    EXPECT_EQ(black + std::count(bytes.begin(), bytes.end(), 255), 113 * 113);
+    EXPECT_NEAR(double(black), 3.1416 * 42.52 * 42.52, 60);
+}
+
 TEST_F(SheetPixelsTest, PdfPageOfTooManyPixelsIsRefusedWithASentence)
 {
     const auto image = sampleLabel()->renderPart(0, {10'000, 10'001}, {0, 0, 100, 100});
