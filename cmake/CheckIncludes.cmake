@@ -19,12 +19,14 @@ set(allowed_tools
   "plugin/FormatterInspection[.]h" "platform/" "ppd/ExtendedTicket[.]h" "ppd/TapeInfo[.]h")
 set(allowed_imaging "imaging/")
 set(allowed_filter "filter/" "imaging/")
+set(allowed_barcodes "barcodes/")
 
 # Libraries that stay in their folders.
-set(libraries "cups/" "plist/" "unicode/" "QUiLoader" "QPdf" "Q")
+set(libraries "cups/" "plist/" "unicode/" "ZXing/" "QUiLoader" "QPdf" "Q")
 set(folders_of_cups/ plugin ppd graphics_panel diagnostics dialog tools filter)
 set(folders_of_plist/ ppd dialog)
 set(folders_of_unicode/ platform)
+set(folders_of_ZXing/ barcodes)
 set(folders_of_QUiLoader platform)
 set(folders_of_QPdf dialog)
 set(folders_of_Q platform ppd preview plugin graphics_panel controls diagnostics loading dialog
@@ -62,7 +64,8 @@ endfunction()
 
 set(count 0)
 foreach(folder
-    platform ppd preview plugin graphics_panel controls diagnostics loading dialog tools imaging filter)
+    platform ppd preview plugin graphics_panel controls diagnostics loading dialog tools imaging filter
+    barcodes)
   file(GLOB_RECURSE files RELATIVE "${ROOT}" "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file ${files})
     math(EXPR count "${count} + 1")

@@ -32,6 +32,8 @@ ExitCode exitCodeOf(FailureKind kind)
     case FailureKind::Job:
     case FailureKind::Folder:
         return ExitCode::Job;
+    case FailureKind::Barcode:
+        return ExitCode::Barcode;
     case FailureKind::Cancelled:
         return ExitCode::Cancelled;
     }

@@ -24,7 +24,8 @@ enum class ExitCode
     Usage = 2, ///< the command line cannot be used
     Document = 3, ///< the document cannot be read
     Printer = 4, ///< the printer, its PPD or a setting for it cannot be used
-    Job = 5 ///< the job could not be handed over
+    Job = 5, ///< the job could not be handed over
+    Barcode = 6 ///< --strict, and a barcode would not be readable
 };
 
 ExitCode exitCodeOf(FailureKind kind);

@@ -19,6 +19,7 @@ enum class FailureKind
     Job, ///< the job was refused or failed on its way
     Folder, ///< the folder cannot be written to
     Panel, ///< a panel or its bundle
+    Barcode, ///< a barcode would not be readable, or cannot be checked
     Cancelled ///< the user stopped it
 };
 
