@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::BarcodeReader</name>
+    <message>
+        <source>cannot be run, so barcodes are not checked; install label-print once more</source>
+        <translation>ne peut pas être lancé, les codes-barres ne sont donc pas vérifiés ; réinstallez label-print</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ColourBadge</name>
     <message>
         <source>The label is printed in black and red</source>
