@@ -2,166 +2,187 @@
 #include "imaging/ColorDiffusion.h"
 
 #include "imaging/BlueNoise.h"
-#include "imaging/DiffusionLine.h"
+#include "imaging/ColorDiffusionLine.h"
 
 #include <algorithm>
 
 namespace imaging {
 namespace {
 
-using Plane = ColorDiffusion::Plane;
-
 /// Far from the paper's noise, so that the two have nothing to do with each other.
 constexpr std::size_t kRedOffset = kBlueNoiseSide / 2;
 
-enum Dot : std::uint16_t
+int startAt(const ColorPlaneLine &plane, std::size_t x)
 {
-    kPaperDot = 0,
-    kBlackDot = 1,
-    kRedDot = 2
-};
-
-int noisyStart(std::size_t x, std::size_t y)
-{
-    return startOf(kBlueNoise[y % kBlueNoiseSide][x % kBlueNoiseSide]);
+    return startOf(plane.noise[(x + plane.noiseOffset) % kBlueNoiseSide]);
 }
 
-void setShares(Plane *plane, const std::uint8_t *shares, std::size_t width)
+void gatherPlane(const ColorPlaneLine &plane, std::size_t width)
 {
-    std::uint8_t *to = plane->shares.data();
-    std::fill_n(to, kMargin, shares[0]);
-    std::copy_n(shares, width, to + kMargin);
-    std::fill_n(to + kMargin + width, kMargin, shares[width - 1]);
-}
-
-void gather(Plane *plane)
-{
-    const std::size_t width = plane->shares.size();
-    const std::uint8_t *shares = plane->shares.data();
-    const std::int32_t *down = plane->down.data();
-    const std::int32_t *aside = plane->aside.data() + 1;
-    std::int32_t *sums = plane->sums.data();
     for (std::size_t x = 0; x < width; ++x) {
-        sums[x] = shares[x] * 16 + errorFromAbove(down[x], aside[x], shares[x]);
+        const int share = plane.shares[x];
+        const int error = errorFromAbove(plane.down[x], plane.aside[x], share);
+        plane.sums[x] = std::int16_t(share * 16 + error);
     }
-    std::fill(plane->aside.begin(), plane->aside.end(), 0);
 }
 
-/// What is carried along from pixel to pixel.
-struct Ahead
+void gather(const ColorDiffusionLine &line)
 {
-    std::int32_t paper = 0;
-    std::int32_t red = 0;
-};
-
-/// A row at work, with nothing between it and its numbers.
-class Row
-{
-public:
-    Row(Plane *paper, Plane *red, const DiffusionTable &table, std::size_t row, std::uint16_t *dots)
-        : mPaper(*paper)
-        , mRed(*red)
-        , mTable(table)
-        , mRow(row)
-        , mDots(dots)
-    { }
-
-    /// Chooses the pixel's dot and leaves its errors; `step` leads to the next pixel.
-    void pass(std::size_t x, std::ptrdiff_t step, Ahead *ahead)
-    {
-        const int paper = mPaper.shares[x];
-        const int red = mRed.shares[x];
+    gatherPlane(line.paper, line.width);
+    gatherPlane(line.red, line.width);
+    for (std::size_t x = 0; x < line.width; ++x) {
+        const int paper = line.paper.shares[x];
+        const int red = line.red.shares[x];
         const int black = 255 - paper - red;
         const int most = std::max({paper, red, black});
-        if (most == 255) {
-            end(x, ahead);
-            return;
+        const DiffusionWeights weights = line.table->of(std::uint8_t(most));
+        line.ahead[x] = weights.ahead;
+        line.behind[x] = weights.behind;
+        line.bars[x] = std::uint16_t((paper == 0 ? kNoPaper : 0) | (red == 0 ? kNoRed : 0)
+                                     | (black == 0 ? kNoBlack : 0) | (most == 255 ? kPure : 0));
+        if (paper == 255) {
+            line.paper.sums[x] = kCertain;
         }
-        // Nothing is due of a colour that the pixel has no share of.
-        const int paperDue = paper == 0 ? 0 : mPaper.sums[x] + ahead->paper;
-        const int redSum = black == 0 ? kFull - paperDue : mRed.sums[x] + ahead->red;
-        const int redDue = red == 0 ? 0 : redSum;
-        const int blackDue = kFull - paperDue - redDue;
-        // Numbers, not branches: what a pixel takes cannot be guessed, and a processor that guesses
-        // loses more time than the pixel needs.
-        const int takesPaper = int(paperDue >= blackDue) & int(paperDue >= redDue);
-        const int takesRed = int(redDue > blackDue) & (1 - takesPaper);
-        mDots[x] = std::uint16_t((1 - takesPaper) << takesRed);
-        const DiffusionWeights weights = mTable[std::size_t(most)];
-        ahead->paper = leave(&mPaper, x, step, paperDue - takesPaper * kFull, weights);
-        ahead->red = leave(&mRed, x, step, redDue - takesRed * kFull, weights);
     }
-
-private:
-    struct Errors
-    {
-        explicit Errors(Plane &plane)
-            : shares(plane.shares.data())
-            , sums(plane.sums.data())
-            , down(plane.down.data())
-            , aside(plane.aside.data() + 1)
-        { }
-
-        const std::uint8_t *shares;
-        const std::int32_t *sums;
-        std::int32_t *down;
-        std::int32_t *aside;
-    };
-
-    /// Pure colours: the error ends here.
-    void end(std::size_t x, Ahead *ahead)
-    {
-        mDots[x] = mPaper.shares[x] == 255 ? kPaperDot
-            : mRed.shares[x] == 255        ? kRedDot
-                                           : kBlackDot;
-        mPaper.down[x] = noisyStart(x, mRow);
-        mRed.down[x] = noisyStart(x + kRedOffset, mRow + kRedOffset);
-        *ahead = {};
-    }
-
-    /// What is carried ahead of the error.
-    static int leave(Errors *errors, std::size_t x, std::ptrdiff_t step, int error,
-                     const DiffusionWeights &weights)
-    {
-        const int ahead = (error * weights.ahead) >> 16;
-        const int behind = (error * weights.behind) >> 16;
-        errors->aside[std::ptrdiff_t(x) - step] += behind;
-        errors->down[x] = error - ahead - behind;
-        return ahead;
-    }
-
-    Errors mPaper;
-    Errors mRed;
-    const DiffusionTable &mTable;
-    std::size_t mRow;
-    std::uint16_t *mDots;
-};
-
-/// As in ErrorDiffusion.
-void keepRest(Plane *plane, const RowOrder &order, int left, int right)
-{
-    const std::size_t width = plane->shares.size();
-    const auto give = [plane](std::ptrdiff_t x, int share) {
-        plane->aside[std::size_t(x + 1)] += share;
-    };
-    if (order.seam > 0) {
-        goOn(order.leftEnd(), 1, width, left, give);
-    }
-    goOn(order.rightEnd(width), -1, width, right, give);
-    plane->down.front() += plane->aside.front();
-    plane->down.back() += plane->aside.back();
 }
 
-/// The bits of the pixels that are `dot`.
-void pack(const std::uint16_t *dots, Dot dot, std::size_t width, std::uint8_t *ink)
+/// What is due of each colour, and the colour of which most is due.
+struct Choice
 {
-    for (std::size_t x = 0; x < width; x += 8) {
-        const std::size_t count = std::min<std::size_t>(8, width - x);
-        unsigned bits = 0;
-        for (std::size_t i = 0; i < count; ++i) {
-            bits |= unsigned(dots[x + i] == dot) << (7 - i);
+    Choice(int paperDue, int redDue)
+        : paper(paperDue)
+        , red(redDue)
+    {
+        const int black = kFull - paper - red;
+        takesPaper = paper >= black && paper >= red;
+        takesRed = red > black && !takesPaper;
+    }
+
+    int paperError() const { return takesPaper ? paper - kFull : paper; }
+    int redError() const { return takesRed ? red - kFull : red; }
+
+    int paper;
+    int red;
+    bool takesPaper;
+    bool takesRed;
+};
+
+struct Ahead
+{
+    int paper = 0;
+    int red = 0;
+};
+
+/// Takes the errors over one pixel. Nothing is due of a colour that the pixel has no share of.
+Ahead carried(const ColorDiffusionLine &line, std::ptrdiff_t x, const Ahead &ahead)
+{
+    const int bars = line.bars[x];
+    const int paper = (bars & kNoPaper) != 0 ? 0 : line.paper.sums[x] + ahead.paper;
+    const int redSum = (bars & kNoBlack) != 0 ? kFull - paper : line.red.sums[x] + ahead.red;
+    const int red = (bars & kNoRed) != 0 ? 0 : redSum;
+    line.paper.sums[x] = std::int16_t(paper);
+    line.red.sums[x] = std::int16_t(red);
+    const Choice choice(paper, red);
+    const int weight = line.ahead[x];
+    return {partOf(choice.paperError(), weight), partOf(choice.redError(), weight)};
+}
+
+/// A block of every part in turns.
+ColorPartEnds carry(const ColorDiffusionLine &line)
+{
+    const RowParts &parts = line.parts;
+    ColorPartEnds ends;
+    for (std::size_t turn = 0; turn < parts.turns; ++turn) {
+        for (std::size_t part = 0; part < kParts; ++part) {
+            const std::ptrdiff_t from = parts.block(part, turn);
+            if (parts.isOutside(from)) {
+                continue;
+            }
+            Ahead ahead{ends.paper[part], ends.red[part]};
+            for (std::ptrdiff_t i = 0; i < std::ptrdiff_t(kBlock); ++i) {
+                ahead = carried(line, from + (parts.rightward ? i : 7 - i), ahead);
+            }
+            ends.paper[part] = std::int16_t(ahead.paper);
+            ends.red[part] = std::int16_t(ahead.red);
         }
-        ink[x / 8] = std::uint8_t(bits);
+    }
+    return ends;
+}
+
+/// What a pixel leaves to the row below.
+void leave(const ColorPlaneLine &plane, std::size_t x, std::ptrdiff_t step, int error,
+           const DiffusionWeights &weights)
+{
+    const int behind = partOf(error, weights.behind);
+    plane.aside[std::ptrdiff_t(x) - step] = std::int16_t(behind);
+    plane.down[x] = std::int16_t(error - partOf(error, weights.ahead) - behind);
+}
+
+void distribute(const ColorDiffusionLine &line)
+{
+    for (const ColorPlaneLine *plane : {&line.paper, &line.red}) {
+        std::fill(plane->aside - 1, plane->aside + line.width + 1, std::int16_t(0));
+    }
+    std::fill_n(line.blackInk, line.width / 8, std::uint8_t(0));
+    std::fill_n(line.redInk, line.width / 8, std::uint8_t(0));
+    const std::ptrdiff_t step = line.parts.step();
+    for (std::size_t x = 0; x < line.width; ++x) {
+        const Choice choice(line.paper.sums[x], line.red.sums[x]);
+        if (!choice.takesPaper) {
+            std::uint8_t *ink = choice.takesRed ? line.redInk : line.blackInk;
+            ink[x / 8] |= std::uint8_t(0x80U >> (x % 8));
+        }
+        if ((line.bars[x] & kPure) != 0) {
+            line.paper.down[x] = std::int16_t(startAt(line.paper, x));
+            line.red.down[x] = std::int16_t(startAt(line.red, x));
+            continue;
+        }
+        const DiffusionWeights weights{line.ahead[x], line.behind[x]};
+        leave(line.paper, x, step, choice.paperError(), weights);
+        leave(line.red, x, step, choice.redError(), weights);
+    }
+}
+
+/// As in ErrorDiffusion. `sideSum` is what the sums beside the row began with.
+void keepRest(const ColorPlaneLine &plane, const RowParts &parts, const PartEnds &ends, int sideSum)
+{
+    const auto give = [&plane](std::ptrdiff_t x, int error) {
+        plane.aside[x] = std::int16_t(plane.aside[x] + error);
+    };
+    for (std::size_t part = 0; part < kParts; ++part) {
+        goOn(parts, parts.behindEnd(part), ends[part], give);
+    }
+    goOn(parts, parts.behindRow(), plane.sums[parts.behindRow()] - sideSum, give);
+    plane.down[0] = std::int16_t(plane.down[0] + plane.aside[-1]);
+    std::int16_t &last = plane.down[parts.width - 1];
+    last = std::int16_t(last + plane.aside[parts.width]);
+}
+
+/// The dots of the page without its margins.
+void copyInk(const std::vector<std::uint8_t> &from, std::size_t width, std::uint8_t *to)
+{
+    std::copy_n(from.begin() + kMargin / 8, (width + 7) / 8, to);
+    to[(width - 1) / 8] &= std::uint8_t(0xFF00U >> ((width - 1) % 8 + 1));
+}
+
+struct Steps
+{
+    void (*gather)(const ColorDiffusionLine &line);
+    ColorPartEnds (*carry)(const ColorDiffusionLine &line);
+    void (*distribute)(const ColorDiffusionLine &line);
+};
+
+Steps stepsOf(ProcessorPath path)
+{
+    switch (path) {
+#if defined(__x86_64__)
+    case ProcessorPath::Avx2:
+        return {gatherColorsAvx2, carryColorsAvx2, distributeColorsAvx2};
+    case ProcessorPath::Sse2:
+        return {gatherColorsSse2, carryColorsSse2, distributeColorsSse2};
+#endif
+    default:
+        return {gather, carry, distribute};
     }
 }
 
@@ -169,63 +190,78 @@ void pack(const std::uint16_t *dots, Dot dot, std::size_t width, std::uint8_t *i
 
 ColorDiffusion::Plane::Plane(std::size_t width)
     : shares(width)
-    , sums(width)
+    , sums(width + 2 * kBlock)
     , down(width)
     , aside(width + 2)
+    , ink(width / 8)
 { }
+
+void ColorDiffusion::Plane::setShares(const std::uint8_t *row, std::size_t width)
+{
+    std::fill_n(shares.begin(), kMargin, row[0]);
+    std::copy_n(row, width, shares.begin() + kMargin);
+    std::fill(shares.begin() + std::ptrdiff_t(kMargin + width), shares.end(), row[width - 1]);
+}
+
+ColorPlaneLine ColorDiffusion::Plane::line(std::size_t row, std::size_t offset)
+{
+    return {shares.data(),    kBlueNoise[(row + offset) % kBlueNoiseSide],
+            offset,           down.data(),
+            aside.data() + 1, sums.data() + kBlock};
+}
 
 ColorDiffusion::ColorDiffusion(std::size_t width, const DiffusionTable &table)
     : mWidth(width)
     , mTable(table)
-    , mPaper(width + 2 * kMargin)
-    , mRed(width + 2 * kMargin)
-    , mDots(width + 2 * kMargin)
+    , mPaper(widthWithMargins(width))
+    , mRed(widthWithMargins(width))
+    , mAhead(widthWithMargins(width) + 2 * kBlock)
+    , mBehind(widthWithMargins(width))
+    , mBars(mAhead.size())
 {
-    for (std::size_t x = 0; x < mDots.size(); ++x) {
-        mPaper.down[x] = noisyStart(x, kBlueNoiseSide - 1);
-        mRed.down[x] = noisyStart(x + kRedOffset, kRedOffset - 1);
+    const ColorPlaneLine paper = mPaper.line(kBlueNoiseSide - 1, 0);
+    const ColorPlaneLine red = mRed.line(kBlueNoiseSide - 1, kRedOffset);
+    for (std::size_t x = 0; x < mBehind.size(); ++x) {
+        paper.down[x] = std::int16_t(startAt(paper, x));
+        red.down[x] = std::int16_t(startAt(red, x));
     }
 }
 
 void ColorDiffusion::apply(const std::uint8_t *paper, const std::uint8_t *red,
-                           std::uint8_t *blackInk, std::uint8_t *redInk)
+                           std::uint8_t *blackInk, std::uint8_t *redInk, ProcessorPath path)
 {
     if (mWidth == 0) {
         return;
     }
-    setShares(&mPaper, paper, mWidth);
-    setShares(&mRed, red, mWidth);
-    gather(&mPaper);
-    gather(&mRed);
-    goThrough();
-    pack(mDots.data() + kMargin, kBlackDot, mWidth, blackInk);
-    pack(mDots.data() + kMargin, kRedDot, mWidth, redInk);
-    ++mRow;
+    mPaper.setShares(paper, mWidth);
+    mRed.setShares(red, mWidth);
+    diffuse(path);
+    copyInk(mPaper.ink, mWidth, blackInk);
+    copyInk(mRed.ink, mWidth, redInk);
 }
 
-void ColorDiffusion::goThrough()
+void ColorDiffusion::diffuse(ProcessorPath path)
 {
-    const std::size_t width = mDots.size();
-    const RowOrder order = rowOrder(mRow, width);
-    const std::size_t rights = width - order.seam;
-    const std::ptrdiff_t step = order.inward ? 1 : -1;
-    Row row(&mPaper, &mRed, mTable, mRow, mDots.data());
-    std::size_t left = order.inward ? 0 : order.seam - 1;
-    std::size_t right = order.inward ? width - 1 : order.seam;
-    Ahead leftAhead;
-    Ahead rightAhead;
-    for (std::size_t i = 0; i < std::max(order.seam, rights); ++i) {
-        if (i < order.seam) {
-            row.pass(left, step, &leftAhead);
-            left += std::size_t(step);
-        }
-        if (i < rights) {
-            row.pass(right, -step, &rightAhead);
-            right -= std::size_t(step);
-        }
-    }
-    keepRest(&mPaper, order, leftAhead.paper, rightAhead.paper);
-    keepRest(&mRed, order, leftAhead.red, rightAhead.red);
+    const std::size_t width = mBehind.size();
+    const ColorDiffusionLine line{width,
+                                  rowParts(mRow, width),
+                                  &mTable,
+                                  mPaper.line(mRow, 0),
+                                  mRed.line(mRow, kRedOffset),
+                                  mAhead.data() + kBlock,
+                                  mBehind.data(),
+                                  mBars.data() + kBlock,
+                                  mPaper.ink.data(),
+                                  mRed.ink.data()};
+    ++mRow;
+    setSides(line.paper.sums, width, kCertain);
+    setSides(line.red.sums, width, 0);
+    const Steps steps = stepsOf(path);
+    steps.gather(line);
+    const ColorPartEnds ends = steps.carry(line);
+    steps.distribute(line);
+    keepRest(line.paper, line.parts, ends.paper, kCertain);
+    keepRest(line.red, line.parts, ends.red, 0);
 }
 
 } // namespace imaging

@@ -2,12 +2,16 @@
 #pragma once
 
 #include "imaging/DiffusionWeights.h"
+#include "imaging/ProcessorPath.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace imaging {
+
+struct ColorDiffusionLine;
+struct ColorPlaneLine;
 
 /// Makes dots of white, black and red by error diffusion of the three together: each pixel takes
 /// the colour of which most is due there, and what it prints too much or too little of each goes on
@@ -24,29 +28,34 @@ public:
     /// the bits behind the last pixel are 0. `paper` and `red` are Shares of `width` pixels,
     /// `blackInk` and `redInk` have (width + 7) / 8 bytes each.
     void apply(const std::uint8_t *paper, const std::uint8_t *red, std::uint8_t *blackInk,
-               std::uint8_t *redInk);
+               std::uint8_t *redInk, ProcessorPath path);
 
-    /// The shares of one colour and its errors. Rows have a margin on either side; `aside` has one
-    /// place more on either side of that.
+private:
+    /// One colour. Rows have a margin on either side; `aside` and `sums` have more beyond that, as
+    /// ColorDiffusionLine says.
     struct Plane
     {
         explicit Plane(std::size_t width);
+        void setShares(const std::uint8_t *row, std::size_t width);
+        ColorPlaneLine line(std::size_t row, std::size_t offset);
 
         std::vector<std::uint8_t> shares;
-        std::vector<std::int32_t> sums; ///< Share and error from above, in 16ths.
-        std::vector<std::int32_t> down; ///< What each pixel leaves to the one below.
-        std::vector<std::int32_t> aside; ///< And to the one beside that.
+        std::vector<std::int16_t> sums;
+        std::vector<std::int16_t> down;
+        std::vector<std::int16_t> aside;
+        std::vector<std::uint8_t> ink; ///< The paper's plane has the black dots here.
     };
 
-private:
-    void goThrough();
+    void diffuse(ProcessorPath path);
 
     std::size_t mWidth;
     std::size_t mRow = 0;
     DiffusionTable mTable;
     Plane mPaper;
     Plane mRed;
-    std::vector<std::uint16_t> mDots;
+    std::vector<std::uint8_t> mAhead;
+    std::vector<std::uint8_t> mBehind;
+    std::vector<std::uint16_t> mBars;
 };
 
 } // namespace imaging

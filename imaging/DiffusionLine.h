@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "imaging/DiffusionParts.h"
 #include "imaging/DiffusionWeights.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -18,34 +20,6 @@ constexpr int kErrorLimit = kFull;
 
 /// Stands for a tone that no error can change.
 constexpr int kCertain = 1 << 14;
-
-/// Pixels are taken by the group where that is faster.
-constexpr std::size_t kGroup = 16;
-
-/// Rows go on so far beyond the page on either side, with the tone of the outermost pixel. Where
-/// errors turn round, dots gather; nobody sees those.
-constexpr std::size_t kMargin = kGroup;
-
-/// What is left where a way ends goes on below, over so many pixels; in one place it would draw a
-/// line of dots.
-constexpr int kShares = 8;
-
-/// Gives each of these pixels its share of `rest`, beginning with `at`: calls give(pixel, share).
-/// The last pixel of the row gets what would go beyond.
-template <typename Give>
-void goOn(std::ptrdiff_t at, std::ptrdiff_t step, std::size_t width, int rest, Give give)
-{
-    const auto last = std::ptrdiff_t(width) - 1;
-    for (int share = kShares; share > 0; --share, at += step) {
-        give(std::clamp(at, std::ptrdiff_t(0), last), rest / share);
-        rest -= rest / share;
-    }
-}
-
-constexpr std::size_t wholeGroups(std::size_t width)
-{
-    return (width + kGroup - 1) / kGroup * kGroup;
-}
 
 /// What pure black and white leave below instead of an error is marked: noise around this.
 constexpr int kStart = 1 << 14;
@@ -70,61 +44,67 @@ constexpr int errorFromAbove(int down, int aside, int tone)
     return std::clamp(straight + aside, -kErrorLimit, kErrorLimit);
 }
 
+/// The part of an error that goes ahead or behind. Twice the error is cut to 16 bits; a page in
+/// black never gets there.
+constexpr int partOf(int error, int weight)
+{
+    return (std::clamp(2 * error, -32768, 32767) * weight) >> 8;
+}
+
 constexpr bool isExtreme(std::uint8_t tone)
 {
     return tone == 0 || tone == 255;
 }
 
-/// The order in which a row is gone through: the pixels left of the seam and those from it on at
-/// the same time, towards the seam in one row and away from it in the next. Two errors under way
-/// keep the processor busy while one would have it wait.
-struct RowOrder
-{
-    std::size_t seam = 0; ///< A whole number of groups.
-    bool inward = true;
-
-    /// +1 or -1: where the pixel's error is carried to.
-    std::ptrdiff_t step(std::size_t x) const { return (x < seam) == inward ? 1 : -1; }
-
-    /// Where what is left of the way through the left side goes on to the right in the row below.
-    std::ptrdiff_t leftEnd() const { return inward ? std::ptrdiff_t(seam) : 1; }
-
-    /// And of the right side, where it goes on to the left.
-    std::ptrdiff_t rightEnd(std::size_t width) const
-    {
-        return (inward ? std::ptrdiff_t(seam) : std::ptrdiff_t(width) - 1) - 1;
-    }
-};
-
-/// The seam is near the middle and moves from row to row, so that it cannot be seen. A narrow page
-/// has it at its left side: every row is gone through as a whole.
-RowOrder rowOrder(std::size_t row, std::size_t width);
-
-/// One row of error diffusion at work. The arrays have room for whole groups of pixels, and `tones`
-/// is white behind the last pixel; `aside` has one place more on either side.
+/// One row of error diffusion at work. The arrays have `width` places, whole groups; `aside` has
+/// one more on either side, `sums` and `ahead` have a block more. There the sums are kCertain and
+/// the weights 0: parts that reach beyond the row end there.
 struct DiffusionLine
 {
     std::size_t width = 0;
-    RowOrder order;
+    RowParts parts;
     const std::uint8_t *tones = nullptr;
     const std::uint8_t *noise = nullptr; ///< The row's blue noise, kBlueNoiseSide of it.
     const DiffusionTable *table = nullptr;
     std::int16_t *down = nullptr; ///< What the pixel above leaves to each pixel.
     std::int16_t *aside = nullptr; ///< What the pixel beside that one leaves, in the next row.
     std::int16_t *sums = nullptr; ///< Tone and errors together, less the middle: ink if negative.
-    DiffusionWeights *weights = nullptr;
+    std::uint8_t *ahead = nullptr; ///< Each pixel's weights.
+    std::uint8_t *behind = nullptr;
     std::uint8_t *ink = nullptr;
 };
 
+/// Fills the blocks beside a row.
+inline void setSides(std::int16_t *sums, std::size_t width, int value)
+{
+    std::fill_n(sums - kBlock, kBlock, std::int16_t(value));
+    std::fill_n(sums + width, kBlock, std::int16_t(value));
+}
+
+/// Clears the places at the sides of a row of what goes aside, which groups of pixels may pass by.
+inline void clearSides(std::int16_t *aside, std::size_t width)
+{
+    std::fill_n(aside - 1, 2, std::int16_t(0));
+    std::fill_n(aside + width - 1, 2, std::int16_t(0));
+}
+
+/// What is left at the end of each part; nothing at an end beyond the row.
+using PartEnds = std::array<std::int16_t, kParts>;
+
 #if defined(__x86_64__)
-/// Tones and what the row above left, into `sums`.
+/// Tones and what the row above left, into `sums`, and the tones' weights.
 void gatherSse2(const DiffusionLine &line);
 
-/// Dots, and the errors that go down, out of `sums` and `weights`.
+/// Takes the errors along the row.
+PartEnds carrySse2(const DiffusionLine &line);
+
+/// Dots, and the errors that go down, out of `sums` and the weights.
 void distributeSse2(const DiffusionLine &line);
 
-/// Whether the group's tones are all black or white.
-bool allExtremeSse2(const std::uint8_t *tones);
+// These only on a processor that has AVX2.
+void gatherAvx2(const DiffusionLine &line);
+PartEnds carryAvx2(const DiffusionLine &line);
+void distributeAvx2(const DiffusionLine &line);
 #endif
 
 } // namespace imaging

@@ -4,110 +4,123 @@
 #if defined(__x86_64__)
 
 #include "imaging/Bits.h"
-#include "imaging/BlueNoise.h"
-
-#include <emmintrin.h>
+#include "imaging/DiffusionLanes_x86.h"
 
 namespace imaging {
 namespace {
 
-inline __m128i load(const void *from)
+inline bool allExtreme(const std::uint8_t *tones)
 {
-    return _mm_loadu_si128(static_cast<const __m128i *>(from));
+    const __m128i group = load(tones);
+    const __m128i extreme = _mm_or_si128(_mm_cmpeq_epi8(group, _mm_setzero_si128()),
+                                         _mm_cmpeq_epi8(group, _mm_set1_epi8(-1)));
+    return _mm_movemask_epi8(extreme) == 0xFFFF;
 }
 
-inline void store(void *to, __m128i lanes)
+void gather8(const DiffusionLine &line, std::size_t x)
 {
-    _mm_storeu_si128(static_cast<__m128i *>(to), lanes);
+    const __m128i tones = widened(line.tones + x);
+    const __m128i error = errorsFromAbove(load(line.down + x), load(line.aside + x), tones);
+    const __m128i grey = _mm_sub_epi16(_mm_slli_epi16(tones, 4), all(kHalf));
+    const __m128i sum = _mm_add_epi16(grey, error);
+    const __m128i black = _mm_cmpeq_epi16(tones, _mm_setzero_si128());
+    const __m128i white = _mm_cmpeq_epi16(tones, all(255));
+    store(line.sums + x, chosen(white, all(kCertain), chosen(black, all(-kCertain), sum)));
 }
 
-inline __m128i all(int value)
+/// 16 pixels without grey.
+void gatherExtremes(const DiffusionLine &line, std::size_t x)
 {
-    return _mm_set1_epi16(short(value));
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i black = _mm_cmpeq_epi8(load(line.tones + x), zero);
+    const __m128i low = _mm_unpacklo_epi8(black, black);
+    const __m128i high = _mm_unpackhi_epi8(black, black);
+    store(line.sums + x, chosen(low, all(-kCertain), all(kCertain)));
+    store(line.sums + x + 8, chosen(high, all(-kCertain), all(kCertain)));
+    store(line.ahead + x, zero);
+    store(line.behind + x, zero);
 }
 
-/// `yes` where the mask is set, `no` elsewhere.
-inline __m128i chosen(__m128i mask, __m128i yes, __m128i no)
+/// Where a part's lane reads and writes in a turn. Outside the row there are pixels of its own,
+/// which nothing comes of.
+struct Lane
 {
-    return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
-}
-
-inline __m128i extremes(__m128i tones)
-{
-    return _mm_or_si128(_mm_cmpeq_epi8(tones, _mm_setzero_si128()),
-                        _mm_cmpeq_epi8(tones, _mm_set1_epi8(-1)));
-}
-
-/// 8 bytes as 16-bit lanes.
-inline __m128i widened(const std::uint8_t *bytes)
-{
-    return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(bytes)),
-                             _mm_setzero_si128());
-}
-
-inline __m128i starts(const DiffusionLine &line, std::size_t x)
-{
-    const __m128i noise = widened(line.noise + x % kBlueNoiseSide);
-    return _mm_add_epi16(_mm_slli_epi16(_mm_sub_epi16(noise, all(128)), 3), all(kStart));
-}
-
-inline __m128i usualErrors(__m128i tones)
-{
-    const auto limited = [](__m128i lanes) {
-        return _mm_min_epi16(_mm_slli_epi16(lanes, 3), all(560));
-    };
-    return _mm_sub_epi16(limited(_mm_subs_epu16(all(112), tones)),
-                         limited(_mm_subs_epu16(tones, all(143))));
-}
-
-inline __m128i errorsFromAbove(__m128i down, __m128i aside, __m128i tones)
-{
-    const __m128i limit = all(kErrorLimit);
-    const __m128i starts = _mm_cmpgt_epi16(down, all(kLeastStart - 1));
-    const __m128i started = _mm_add_epi16(_mm_sub_epi16(down, all(kStart)), usualErrors(tones));
-    const __m128i errors = _mm_adds_epi16(chosen(starts, started, down), aside);
-    return _mm_max_epi16(_mm_min_epi16(errors, limit), _mm_sub_epi16(_mm_setzero_si128(), limit));
-}
-
-struct Parts
-{
-    __m128i ahead;
-    __m128i behind;
+    std::int16_t *sums;
+    const std::uint8_t *weights;
 };
 
-/// The weights of 8 pixels, each part in lanes of its own.
-inline Parts partsOf(const DiffusionWeights *weights)
+struct Outside
 {
-    const __m128i low = load(weights);
-    const __m128i high = load(weights + 4);
-    const auto lower = [](__m128i pairs) { return _mm_srai_epi32(_mm_slli_epi32(pairs, 16), 16); };
-    return {_mm_packs_epi32(lower(low), lower(high)),
-            _mm_packs_epi32(_mm_srai_epi32(low, 16), _mm_srai_epi32(high, 16))};
+    std::array<std::int16_t, kBlock> sums{};
+    std::array<std::uint8_t, kBlock> weights{};
+};
+
+inline Lane laneOf(const DiffusionLine &line, std::size_t part, std::size_t turn, Outside *outside)
+{
+    const std::ptrdiff_t x = line.parts.block(part, turn);
+    if (line.parts.isOutside(x)) {
+        return {outside->sums.data(), outside->weights.data()};
+    }
+    return {line.sums + x, line.ahead + x};
 }
 
-/// (error * part) >> 16, where a part of half or more reads as a negative lane.
-inline __m128i partOf(__m128i error, __m128i part)
+/// Takes the errors of all parts over a pixel each.
+inline __m128i carried(__m128i sum, __m128i weight)
 {
-    return _mm_add_epi16(_mm_mulhi_epi16(error, part),
-                         _mm_and_si128(error, _mm_srai_epi16(part, 15)));
+    // Twice the error at once: nothing here is as large as to be cut.
+    const __m128i inked = _mm_and_si128(_mm_srai_epi16(sum, 15), all(2 * kFull));
+    const __m128i twice = _mm_sub_epi16(_mm_add_epi16(sum, sum), all(kFull));
+    return _mm_mulhi_epi16(_mm_add_epi16(twice, inked), weight);
 }
 
-void distribute8(const DiffusionLine &line, std::size_t x, __m128i sum, std::ptrdiff_t back)
+// Always inline, so that it is made anew for a processor with AVX2, where it needs fewer
+// instructions.
+template <bool kRightward>
+__attribute__((always_inline)) inline __m128i carryAll(const DiffusionLine &line)
+{
+    Outside outside;
+    __m128i ahead = _mm_setzero_si128();
+    for (std::size_t turn = 0; turn < line.parts.turns; ++turn) {
+        Square sums;
+        Square weights;
+        std::int16_t *places[kParts];
+        for (std::size_t part = 0; part < kParts; ++part) {
+            const Lane lane = laneOf(line, part, turn, &outside);
+            places[part] = lane.sums;
+            sums[part] = load(lane.sums);
+            weights[part] = weightsOf(lane.weights);
+        }
+        transpose(sums);
+        transpose(weights);
+        for (std::size_t i = 0; i < kBlock; ++i) {
+            const std::size_t x = kRightward ? i : kBlock - 1 - i;
+            sums[x] = _mm_add_epi16(sums[x], ahead);
+            ahead = carried(sums[x], weights[x]);
+        }
+        transpose(sums);
+        for (std::size_t part = 0; part < kParts; ++part) {
+            store(places[part], sums[part]);
+        }
+    }
+    return ahead;
+}
+
+void distribute8(const DiffusionLine &line, std::size_t x, __m128i sum)
 {
     const __m128i tones = widened(line.tones + x);
     const __m128i extreme =
         _mm_or_si128(_mm_cmpeq_epi16(tones, _mm_setzero_si128()), _mm_cmpeq_epi16(tones, all(255)));
     const __m128i half =
         _mm_sub_epi16(_mm_and_si128(_mm_srai_epi16(sum, 15), all(kFull)), all(kHalf));
-    const __m128i error = _mm_andnot_si128(extreme, _mm_add_epi16(sum, half));
-    const Parts parts = partsOf(line.weights + x);
-    const __m128i behind = partOf(error, parts.behind);
-    const __m128i down = _mm_sub_epi16(_mm_sub_epi16(error, partOf(error, parts.ahead)), behind);
-    store(line.aside + std::ptrdiff_t(x) + back, behind);
-    store(line.down + x, chosen(extreme, starts(line, x), down));
+    const __m128i error = _mm_add_epi16(sum, half);
+    const __m128i ahead = partsOf(error, weightsOf(line.ahead + x));
+    const __m128i behind = partsOf(error, weightsOf(line.behind + x));
+    const __m128i down = _mm_sub_epi16(_mm_sub_epi16(error, ahead), behind);
+    store(line.aside + std::ptrdiff_t(x) - line.parts.step(), behind);
+    store(line.down + x, chosen(extreme, starts(line.noise + x % kBlueNoiseSide), down));
 }
 
-void distributeGroup(const DiffusionLine &line, std::size_t x, std::ptrdiff_t back)
+void distribute16(const DiffusionLine &line, std::size_t x)
 {
     const __m128i left = load(line.sums + x);
     const __m128i right = load(line.sums + x + 8);
@@ -115,51 +128,57 @@ void distributeGroup(const DiffusionLine &line, std::size_t x, std::ptrdiff_t ba
     const unsigned bits = unsigned(_mm_movemask_epi8(_mm_packs_epi16(left, right)));
     line.ink[x / 8] = kReversed[bits & 0xFF];
     line.ink[x / 8 + 1] = kReversed[bits >> 8];
-    distribute8(line, x, left, back);
-    distribute8(line, x + 8, right, back);
+    if (allExtreme(line.tones + x)) {
+        for (const std::size_t at : {x, x + 8}) {
+            store(line.aside + std::ptrdiff_t(at) - line.parts.step(), _mm_setzero_si128());
+            store(line.down + at, starts(line.noise + at % kBlueNoiseSide));
+        }
+        return;
+    }
+    distribute8(line, x, left);
+    distribute8(line, x + 8, right);
 }
 
 } // namespace
 
-bool allExtremeSse2(const std::uint8_t *tones)
-{
-    return _mm_movemask_epi8(extremes(load(tones))) == 0xFFFF;
-}
-
 void gatherSse2(const DiffusionLine &line)
 {
-    for (std::size_t x = 0; x < line.width; x += 8) {
-        const __m128i tones = widened(line.tones + x);
-        const __m128i error = errorsFromAbove(load(line.down + x), load(line.aside + x), tones);
-        const __m128i grey = _mm_sub_epi16(_mm_slli_epi16(tones, 4), all(kHalf));
-        const __m128i sum = _mm_add_epi16(grey, error);
-        const __m128i black = _mm_cmpeq_epi16(tones, _mm_setzero_si128());
-        const __m128i white = _mm_cmpeq_epi16(tones, all(255));
-        store(line.sums + x, chosen(white, all(kCertain), chosen(black, all(-kCertain), sum)));
+    const DiffusionTable &table = *line.table;
+    for (std::size_t x = 0; x < line.width; x += 16) {
+        if (allExtreme(line.tones + x)) {
+            gatherExtremes(line, x);
+            continue;
+        }
+        gather8(line, x);
+        gather8(line, x + 8);
+        for (std::size_t i = x; i < x + 16; ++i) {
+            const DiffusionWeights weights = table.of(line.tones[i]);
+            line.ahead[i] = weights.ahead;
+            line.behind[i] = weights.behind;
+        }
     }
+}
+
+PartEnds carrySse2(const DiffusionLine &line)
+{
+    PartEnds ends;
+    store(ends.data(), line.parts.rightward ? carryAll<true>(line) : carryAll<false>(line));
+    return ends;
+}
+
+__attribute__((target("avx2"))) PartEnds carryAvx2(const DiffusionLine &line)
+{
+    PartEnds ends;
+    store(ends.data(), line.parts.rightward ? carryAll<true>(line) : carryAll<false>(line));
+    return ends;
 }
 
 void distributeSse2(const DiffusionLine &line)
 {
-    const RowOrder &order = line.order;
-    std::int16_t *seam = line.aside + order.seam;
-    // The groups do not write where nothing goes: the row's ends and, on the way inward, the seam.
-    for (std::int16_t *place : {line.aside, seam, line.aside + line.width}) {
-        place[-1] = 0;
-        place[0] = 0;
+    clearSides(line.aside, line.width);
+    for (std::size_t x = 0; x < line.width; x += 16) {
+        distribute16(line, x);
     }
-    for (std::size_t x = 0; x < order.seam; x += kGroup) {
-        distributeGroup(line, x, -order.step(x));
-    }
-    // On the way outward both sides leave something to the same two places.
-    const bool outward = !order.inward && order.seam > 0;
-    const int before = outward ? seam[-1] : 0;
-    const int at = outward ? seam[0] : 0;
-    for (std::size_t x = order.seam; x < line.width; x += kGroup) {
-        distributeGroup(line, x, -order.step(x));
-    }
-    seam[-1] = std::int16_t(seam[-1] + before);
-    seam[0] = std::int16_t(seam[0] + at);
 }
 
 } // namespace imaging

@@ -24,28 +24,35 @@ constexpr Key kKeys[] = {
     {95, 0.417, 0.27}, {102, 0.49, 0.236}, {112, 0.45, 0.28}, {120, 0.48, 0.26}, {127, 0.38, 0.30},
 };
 
-std::uint16_t out65536(double part)
+struct Parts
 {
-    return std::uint16_t(std::lround(part * 65536.0));
-}
+    double ahead;
+    double behind;
+};
 
-DiffusionWeights mixed(int tone)
+Parts mixed(double tone)
 {
-    const Key *right = std::find_if(std::begin(kKeys), std::end(kKeys),
+    const Key *right = std::find_if(std::begin(kKeys), std::end(kKeys) - 1,
                                     [tone](const Key &key) { return key.tone >= tone; });
     const Key *left = right == std::begin(kKeys) ? right : right - 1;
     const double part =
-        right == left ? 0.0 : double(tone - left->tone) / double(right->tone - left->tone);
-    return {out65536(left->ahead + (right->ahead - left->ahead) * part),
-            out65536(left->behind + (right->behind - left->behind) * part)};
+        right == left ? 0.0 : std::min((tone - left->tone) / double(right->tone - left->tone), 1.0);
+    return {left->ahead + (right->ahead - left->ahead) * part,
+            left->behind + (right->behind - left->behind) * part};
+}
+
+std::uint8_t out128(double part)
+{
+    return std::uint8_t(std::lround(part * 128.0));
 }
 
 DiffusionTable makeTable()
 {
-    DiffusionTable table{};
-    for (int tone = 1; tone <= 127; ++tone) {
-        table[std::size_t(tone)] = mixed(tone);
-        table[std::size_t(255 - tone)] = table[std::size_t(tone)];
+    DiffusionTable table;
+    for (std::size_t i = 0; i < DiffusionTable::kSize; ++i) {
+        const Parts parts = mixed(double(i * 4 + 1));
+        table.ahead[i] = out128(parts.ahead);
+        table.behind[i] = out128(parts.behind);
     }
     return table;
 }

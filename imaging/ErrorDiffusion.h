@@ -36,7 +36,8 @@ private:
     std::vector<std::int16_t> mDown;
     std::vector<std::int16_t> mAside;
     std::vector<std::int16_t> mSums;
-    std::vector<DiffusionWeights> mWeights;
+    std::vector<std::uint8_t> mAhead;
+    std::vector<std::uint8_t> mBehind;
     std::vector<std::uint8_t> mInk;
 };
 

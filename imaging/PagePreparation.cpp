@@ -186,7 +186,7 @@ public:
     void row(const std::uint8_t *pixels, std::uint8_t *black, std::uint8_t *red) override
     {
         mSeparation.apply(pixels, mWidth, mPaper.data(), mRed.data(), mPath);
-        mDiffusion.apply(mPaper.data(), mRed.data(), black, red);
+        mDiffusion.apply(mPaper.data(), mRed.data(), black, red, mPath);
     }
 
 private:

@@ -21,8 +21,8 @@ constexpr int kKeyTones[] = {1,  2,  4,  8,  12, 16, 24,  32,  40,  48,
 imaging::DiffusionTable flatTable(imaging::DiffusionWeights weights)
 {
     imaging::DiffusionTable table;
-    table.fill(weights);
-    table.front() = table.back() = {};
+    table.ahead.fill(weights.ahead);
+    table.behind.fill(weights.behind);
     return table;
 }
 
@@ -61,7 +61,7 @@ struct Parts
 
     imaging::DiffusionWeights weights() const
     {
-        return {std::uint16_t(ahead * 65536.0 + 0.5), std::uint16_t(behind * 65536.0 + 0.5)};
+        return {std::uint8_t(ahead * 128.0 + 0.5), std::uint8_t(behind * 128.0 + 0.5)};
     }
 };
 

@@ -194,4 +194,34 @@ TEST(TwoColorDiffusion, NoPixelTakesAColorItHasNoShareOf)
     EXPECT_THAT(barred, testing::Each(testing::Gt(2000)));
 }
 
+TEST(TwoColorDiffusion, ErrorsThatAreDrivenTogetherGiveTheSameDotsOnEveryPath)
+{
+    // Colours that lack one of the three side by side with ones that lack another, so that what is
+    // due can be taken late only.
+    std::mt19937 random(17);
+    const std::size_t width = 200;
+    for (int round = 0; round < 20; ++round) {
+        std::array<std::array<std::uint8_t, 3>, 3> kinds{};
+        for (auto &kind : kinds) {
+            const auto least = std::uint8_t(random() % 6);
+            const auto most = std::uint8_t(255 - random() % 6);
+            const auto some = std::uint8_t(random());
+            kind = {random() % 2 == 0 ? most : some, random() % 2 == 0 ? least : some, least};
+        }
+        Bytes rgb;
+        for (std::size_t i = 0; i < width * 150; ++i) {
+            const auto &kind = kinds[round % 2 == 0 ? i % 3 : random() % 3];
+            rgb.insert(rgb.end(), kind.begin(), kind.end());
+        }
+        PageSettings settings = settingsFor(HalftoneMethod::ErrorDiffusion);
+        settings.redLevel = int(random() % 41) - 20;
+        const Dots plain = prepared(settings, rgb, width, InputFormat::Rgb24, ProcessorPath::Plain);
+        for (const ProcessorPath path : processorPaths()) {
+            const Dots dots = prepared(settings, rgb, width, InputFormat::Rgb24, path);
+            ASSERT_EQ(dots.black, plain.black) << round << ", " << int(path);
+            ASSERT_EQ(dots.red, plain.red) << round << ", " << int(path);
+        }
+    }
+}
+
 } // namespace
