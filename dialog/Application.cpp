@@ -243,7 +243,7 @@ ExitCode Application::printAtOnce()
     PrintController controller(mServer, mPlugIns, folder(), PanelSet::Views::None);
     controller.setWishes(mLine.choices);
     controller.setTicket(mTicket);
-    return BatchPrint(controller).run(printer.value(), job, *mDocument);
+    return BatchPrint(controller).run(printer.value(), job, mDocument);
 }
 
 ExitCode Application::showDialog()

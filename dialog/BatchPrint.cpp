@@ -34,7 +34,7 @@ void BatchPrint::fail(const Failure &failure)
 }
 
 ExitCode BatchPrint::run(const Printer &printer, const JobSettings &job,
-                         const DocumentPages &document)
+                         const std::shared_ptr<const DocumentPages> &document)
 {
     QEventLoop loop;
     connect(&mController, &PrintController::setupFailed, &loop, &QEventLoop::quit,

@@ -15,7 +15,8 @@ public:
     explicit BatchPrint(PrintController &controller);
 
     /// Runs the application's event loop until the job is handed over or has failed.
-    ExitCode run(const Printer &printer, const JobSettings &job, const DocumentPages &document);
+    ExitCode run(const Printer &printer, const JobSettings &job,
+                 const std::shared_ptr<const DocumentPages> &document);
 
 private:
     void complained(const Failure &failure);

@@ -143,6 +143,13 @@ std::shared_ptr<const PageSource> DocumentPages::pagesWith(Edges edges) const
     return mHardPages;
 }
 
+bool DocumentPages::canRenderIn(const QSize &pixels, Edges edges) const
+{
+    const bool isPdf =
+        mKind == DocumentKind::Pdf || (mKind == DocumentKind::Svg && edges == Edges::Hard);
+    return !isPdf || qint64(pixels.width()) * pixels.height() <= kMostPixelsOfPdfPage;
+}
+
 Result<QImage> DocumentPages::render(int page, const QSize &pixels) const
 {
     return renderPart(page, pixels, QRect(QPoint(), pixels));
@@ -160,9 +167,7 @@ Result<QImage> DocumentPages::renderPart(int page, const QSize &pixels, const QR
             mPath,
             tr("cannot be shown with %1 x %2 pixels").arg(pixels.width()).arg(pixels.height()));
     }
-    const bool isPdf =
-        mKind == DocumentKind::Pdf || (mKind == DocumentKind::Svg && edges == Edges::Hard);
-    if (isPdf && qint64(pixels.width()) * pixels.height() > kMostPixelsOfPdfPage) {
+    if (!canRenderIn(pixels, edges)) {
         return documentFailure(mPath,
                                tr("page %1 has too many dots at this resolution; choose a lower "
                                   "resolution or a shorter label")

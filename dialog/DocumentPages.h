@@ -75,6 +75,9 @@ public:
     Result<QImage> renderPart(int page, const QSize &pixels, const QRect &part,
                               Edges edges = Edges::Smooth) const;
 
+    /// Whether parts of a page of so many pixels can be rendered at all.
+    bool canRenderIn(const QSize &pixels, Edges edges) const;
+
     /// The pages as a PDF document; a PDF document as it is.
     Result<QByteArray> toPdf() const;
 

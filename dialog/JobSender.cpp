@@ -60,19 +60,29 @@ std::optional<Failure> sendDocument(JobChannel &channel, QIODevice &device, cons
 
 Result<int> sendJob(CupsServer &server, PrintJob job, CancelFlag &cancel, const Progress &progress)
 {
-    const auto device = job.document.open();
+    // Of the way of rendered pages; the server is near.
+    constexpr int kPartOfRendering = 9;
+    const auto device = job.document.open([&](int done, int bands) {
+        progress(qint64(done) * kPartOfRendering, qint64(bands) * (kPartOfRendering + 1));
+        return !cancel.isSet();
+    });
     if (!device) {
-        return device.failure();
+        const bool isCancelled = device.failure().kind == FailureKind::Cancelled;
+        return isCancelled ? cancelledFailure(job) : device.failure();
     }
+    const Progress sendingProgress =
+        !job.document.pages ? progress : [&progress](qint64 sent, qint64 total) {
+            progress(total * kPartOfRendering + sent, total * (kPartOfRendering + 1));
+        };
     const auto channel = server.openJob(job.printer, cancel);
     if (!channel) {
         return channel.failure();
     }
-    const auto number = channel.value()->createJob(job.title(), job.settings.jobOptions());
+    const auto number = channel.value()->createJob(job.title(), job.options());
     if (!number) {
         return number.failure();
     }
-    auto failure = sendDocument(*channel.value(), *device.value(), job, cancel, progress);
+    auto failure = sendDocument(*channel.value(), *device.value(), job, cancel, sendingProgress);
     if (!failure) {
         return number.value();
     }

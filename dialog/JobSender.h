@@ -13,9 +13,10 @@ namespace dialog {
 
 /// Sends `job` and waits until the server has it, for callers that have no window to keep alive;
 /// the number of the job on the server. A job that fails on its way is taken off the server again.
-/// `progress` gets the number of bytes sent.
+/// `progress` gets how much of the work is done, in units of its own. Pages are rendered before
+/// there is a job.
 Result<int> sendJob(CupsServer &server, PrintJob job, CancelFlag &cancel,
-                    const std::function<void(qint64 sent, qint64 total)> &progress);
+                    const std::function<void(qint64 done, qint64 total)> &progress);
 
 /// Sends one job in the background. Each object is good for one job.
 class JobSending : public QObject
@@ -30,7 +31,7 @@ public:
     void cancel() { mCancel.set(); }
 
 Q_SIGNALS:
-    void progressed(qint64 sentBytes, qint64 totalBytes);
+    void progressed(qint64 done, qint64 total);
     void sent(int job);
     void failed(const dialog::Failure &failure);
 
@@ -59,7 +60,7 @@ public:
     void cancel();
 
 Q_SIGNALS:
-    void progressed(qint64 sentBytes, qint64 totalBytes);
+    void progressed(qint64 done, qint64 total);
     /// The server has the whole job; `job` is its number there.
     void sent(int job);
     void failed(const dialog::Failure &failure);

@@ -128,30 +128,48 @@ void PrintController::dropSetup()
     }
 }
 
-bool PrintController::print(const DocumentPages &document)
+bool PrintController::print(const std::shared_ptr<const DocumentPages> &document)
 {
     if (!mSetup || isPrinting()) {
         return false;
     }
-    mSetup->settings().setTitle(document.title());
+    mSetup->settings().setTitle(document->title());
     if (const std::optional<Failure> failure = mSetup->finish()) {
         Q_EMIT jobFailed(*failure);
         return true;
     }
-    const Result<PrintableDocument> printable = document.printable();
-    if (!printable) {
-        Q_EMIT jobFailed(printable.failure());
+    const Result<PrintDocument> sent = documentFor(document);
+    if (!sent) {
+        Q_EMIT jobFailed(sent.failure());
         return true;
     }
-    const PrintJob job{mPrinter.name,
-                       PrintDocument::fromBytes(printable.value().data, printable.value().mimeType,
-                                                document.title()),
-                       mSetup->settings()};
+    const PrintJob job{mPrinter.name, sent.value(), mSetup->settings()};
     if (mPrinter.isFolder) {
         printToFolder(job);
         return true;
     }
     return mSender.send(job);
+}
+
+// The pages as they are previewed, where the queue takes them; else the document itself.
+Result<PrintDocument>
+PrintController::documentFor(const std::shared_ptr<const DocumentPages> &document)
+{
+    if (!mPrinter.isFolder && mSetup->ppd()) {
+        ppd_file_t *ppd = mSetup->ppd()->file();
+        const auto dots = DotPages::of(document, ppd, mSetup->sheet(), mSetup->settings());
+        const auto raster =
+            dots ? RasterDocument::of(*dots, ppd, mSetup->settings().copies()) : std::nullopt;
+        if (raster) {
+            return PrintDocument::fromPages(*raster, document->title());
+        }
+    }
+    const Result<PrintableDocument> printable = document->printable();
+    if (!printable) {
+        return printable.failure();
+    }
+    return PrintDocument::fromBytes(printable.value().data, printable.value().mimeType,
+                                    document->title());
 }
 
 void PrintController::printToFolder(const PrintJob &job)

@@ -52,7 +52,7 @@ public:
 
     /// Prints `document` with the setup; printed or jobFailed follows. False when a job is under
     /// way or there is no setup.
-    bool print(const DocumentPages &document);
+    bool print(const std::shared_ptr<const DocumentPages> &document);
     bool isPrinting() const { return mSender.isBusy(); }
     void cancelJob() { mSender.cancel(); }
 
@@ -67,7 +67,8 @@ Q_SIGNALS:
     /// A wish, or a panel, that could not be had; the setup is made all the same.
     void complained(const dialog::Failure &failure);
 
-    void progressed(qint64 sentBytes, qint64 totalBytes);
+    /// How much of rendering and sending is done.
+    void progressed(qint64 done, qint64 total);
     /// `where` is a sentence for the user: which printer or which folder has the job.
     void printed(const QString &where);
     void jobFailed(const dialog::Failure &failure);
@@ -78,6 +79,7 @@ private:
     OptionChoices wishesFor(const PpdFile *ppd) const;
     void complainOfOtherChoices(const OptionChoices &wishes);
     void dropSetup();
+    Result<PrintDocument> documentFor(const std::shared_ptr<const DocumentPages> &document);
     void printToFolder(const PrintJob &job);
 
     PlugIns mPlugIns;

@@ -231,14 +231,8 @@ void PrintDialog::showMarks()
 void PrintDialog::showSheet()
 {
     PrinterSetup *setup = mController.setup();
-    const std::optional<LabelSize> size =
-        setup ? setup->settings().labelSize() : std::optional<LabelSize>();
-    if (size && size->isKnown()) {
-        mPreview->setSheet({QSizeF(size->width, size->height), setup->ppd()->margins(*size)});
-    } else {
-        // Nobody knows the label, so the page is shown by itself.
-        mPreview->setSheet({});
-    }
+    // While nobody knows the label, the page is shown by itself.
+    mPreview->setSheet(setup ? setup->sheet() : Sheet());
 }
 
 void PrintDialog::showClash()
@@ -269,7 +263,7 @@ void PrintDialog::print()
 {
     mMessages->clear();
     setBusy(true);
-    mController.print(*mDocument);
+    mController.print(mDocument);
 }
 
 void PrintDialog::printed(const QString &)

@@ -9,17 +9,29 @@ namespace dialog {
 
 PrintDocument PrintDocument::fromFile(const QString &path, const QString &mimeType)
 {
-    return {QFileInfo(path).fileName(), mimeType, path, {}};
+    return {QFileInfo(path).fileName(), mimeType, path, {}, nullptr};
 }
 
 PrintDocument PrintDocument::fromBytes(const QByteArray &bytes, const QString &mimeType,
                                        const QString &name)
 {
-    return {name, mimeType, {}, bytes};
+    return {name, mimeType, {}, bytes, nullptr};
 }
 
-Result<std::unique_ptr<QIODevice>> PrintDocument::open()
+PrintDocument PrintDocument::fromPages(const RasterDocument &pages, const QString &name)
 {
+    return {name,
+            QStringLiteral("application/vnd.cups-raster"),
+            {},
+            {},
+            std::make_shared<const RasterDocument>(pages)};
+}
+
+Result<std::unique_ptr<QIODevice>> PrintDocument::open(const BandsDone &progress)
+{
+    if (pages) {
+        return pages->render(progress);
+    }
     const auto unreadable = [this](const QString &reason) {
         return Failure{FailureKind::Document, name, tr("cannot be read (%1)").arg(reason)};
     };

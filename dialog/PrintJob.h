@@ -21,6 +21,9 @@ struct PrintJob
     {
         return settings.title().trimmed().isEmpty() ? document.name : settings.title();
     }
+
+    /// What the print system is told. Pages that are rendered here are chosen and placed already.
+    OptionChoices options() const;
 };
 
 } // namespace dialog

@@ -100,6 +100,15 @@ void PrinterSetup::start(PanelSet::Views views)
     followMarks();
 }
 
+Sheet PrinterSetup::sheet() const
+{
+    const std::optional<LabelSize> &size = mJob.settings->labelSize();
+    if (!size || !size->isKnown()) {
+        return {};
+    }
+    return {QSizeF(size->width, size->height), ppd() ? ppd()->margins(*size) : QMarginsF()};
+}
+
 std::optional<Failure> PrinterSetup::setLabelSize(const LabelSize &size)
 {
     if (!ppd()) {

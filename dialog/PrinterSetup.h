@@ -8,6 +8,7 @@
 #include "dialog/PanelSet.h"
 #include "dialog/PpdFile.h"
 #include "dialog/Printer.h"
+#include "dialog/SheetLayout.h"
 
 #include <QObject>
 
@@ -47,6 +48,9 @@ public:
     /// Makes the panels and brings them to agree with what is chosen. With views, what a panel
     /// shows in spite of that is chosen then.
     void start(PanelSet::Views views);
+
+    /// The label with its margins; without a size while nobody knows it.
+    Sheet sheet() const;
 
     std::optional<Failure> setLabelSize(const LabelSize &size);
 

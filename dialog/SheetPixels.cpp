@@ -55,6 +55,13 @@ SheetPixels::SheetPixels(std::shared_ptr<const DocumentPages> document, int page
     mTurned = placement.turned;
 }
 
+bool SheetPixels::isTooLarge() const
+{
+    const QRect covered = QRect(QPoint(), mForm.dots) & mPlace;
+    return covered.width() > DocumentPages::kLongestRenderedSide
+        || !mDocument->canRenderIn(mPlace.size(), Edges::Hard);
+}
+
 int SheetPixels::rowsOfBand() const
 {
     return std::clamp(kPixelsOfBand / std::max(1, mForm.dots.width()), 1,

@@ -40,6 +40,9 @@ public:
 
     const DotForm &form() const { return mForm; }
 
+    /// Whether no band can be rendered, because page or label have too many dots.
+    bool isTooLarge() const;
+
     /// How many bands make the label, from top to bottom.
     int bands() const;
 

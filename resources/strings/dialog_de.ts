@@ -893,6 +893,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::RasterFile</name>
+    <message>
+        <source>the prepared pages cannot be kept there (%1); make room, or set TMPDIR to another folder</source>
+        <translation>die vorbereiteten Seiten können dort nicht abgelegt werden (%1); schaffen Sie Platz oder setzen Sie TMPDIR auf einen anderen Ordner</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SummaryView</name>
     <message>
         <source>Summary of the settings</source>

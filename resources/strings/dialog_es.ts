@@ -893,6 +893,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::RasterFile</name>
+    <message>
+        <source>the prepared pages cannot be kept there (%1); make room, or set TMPDIR to another folder</source>
+        <translation>las páginas preparadas no se pueden guardar allí (%1); libere espacio o indique otra carpeta en TMPDIR</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SummaryView</name>
     <message>
         <source>Summary of the settings</source>

@@ -893,6 +893,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::RasterFile</name>
+    <message>
+        <source>the prepared pages cannot be kept there (%1); make room, or set TMPDIR to another folder</source>
+        <translation>les pages préparées ne peuvent pas y être gardées (%1)&#xa0;; libérez de la place ou indiquez un autre dossier dans TMPDIR</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SummaryView</name>
     <message>
         <source>Summary of the settings</source>

@@ -891,6 +891,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::RasterFile</name>
+    <message>
+        <source>the prepared pages cannot be kept there (%1); make room, or set TMPDIR to another folder</source>
+        <translation>準備したページをそこに保存できません (%1)。空き容量を増やすか、TMPDIR に別のフォルダーを指定してください</translation>
+    </message>
+</context>
+<context>
     <name>dialog::SummaryView</name>
     <message>
         <source>Summary of the settings</source>

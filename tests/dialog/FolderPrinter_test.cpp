@@ -2,6 +2,7 @@
 #include "dialog/FolderPrinter.h"
 #include "dialog/JobLog.h"
 #include "support/QtPrinters.h"
+#include "tests/dialog/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,10 +10,7 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <thread>
-
-#include <sys/resource.h>
 
 using dialog::Failure;
 using dialog::FailureKind;
@@ -199,30 +197,6 @@ TEST_F(FolderPrinterTest, SettingsThatCannotBeWrittenLeaveNothing)
               QStringLiteral("Jam \"best\": the settings of the job cannot be written down"));
     EXPECT_THAT(entries(), IsEmpty());
 }
-
-/// Lets no file of this process grow beyond some bytes, as on a disk that is full.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &mBefore);
-        mHandler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{bytes, mBefore.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &mBefore);
-        std::signal(SIGXFSZ, mHandler);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit mBefore{};
-    void (*mHandler)(int) = nullptr;
-};
 
 TEST_F(FolderPrinterTest, FullDiskLeavesNothingHalfWritten)
 {

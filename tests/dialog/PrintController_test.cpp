@@ -52,7 +52,7 @@ TEST_F(PrintControllerTest, PrintsIntoTheFolderWithTheWishedChoices)
     QSignalSpy printed(controller.get(), &PrintController::printed);
     controller->choosePrinter(Printer::folder(), {});
     ASSERT_EQ(ready.count(), 1);
-    EXPECT_TRUE(controller->print(*opened(pdfOfPages(2))));
+    EXPECT_TRUE(controller->print(opened(pdfOfPages(2))));
     ASSERT_EQ(printed.count(), 1);
     EXPECT_THAT(printed.at(0).at(0).toString().toStdString(), HasSubstr("out/job-0001"));
     const auto settings =
@@ -84,7 +84,7 @@ TEST_F(PrintControllerTest, ABrokenPpdLeavesNoSetupAndOneSentence)
     ASSERT_EQ(failed.count(), 1);
     EXPECT_THAT(sentence(failed), HasSubstr("not-a-ppd.ppd"));
     EXPECT_FALSE(controller->setup());
-    EXPECT_FALSE(controller->print(*opened(pdfOfPages(1))));
+    EXPECT_FALSE(controller->print(opened(pdfOfPages(1))));
 }
 
 TEST_F(PrintControllerTest, ChoosingAnotherPrinterLetsGoOfTheSetupFirst)
@@ -112,7 +112,7 @@ TEST_F(PrintControllerTest, AQueueGetsTheDocumentAndEveryMarkedChoice)
     controller->choosePrinter(queue(QStringLiteral("Lab")), {});
     ASSERT_TRUE(ready.wait(kPatience));
     const QByteArray content = pdfOfPages(1);
-    ASSERT_TRUE(controller->print(*opened(content)));
+    ASSERT_TRUE(controller->print(opened(content)));
     ASSERT_TRUE(printed.wait(kPatience));
     const CupsServerFixture::Arrived arrived = cups.arrived(1);
     EXPECT_EQ(arrived.document, content);
