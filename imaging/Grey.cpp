@@ -21,16 +21,19 @@ std::size_t toneGrey(const FixedPointMap &tones, const std::uint8_t *from, std::
     }
 }
 
-// Without AVX2 taking threes of bytes apart costs more than it brings.
 std::size_t greyOfRgb(const FixedPointMap &tones, const std::uint8_t *rgb, std::size_t width,
                       std::uint8_t *grey, ProcessorPath path)
 {
+    switch (path) {
 #if defined(__x86_64__)
-    if (path == ProcessorPath::Avx2) {
+    case ProcessorPath::Avx2:
         return greyOfRgbAvx2(tones, rgb, width, grey);
-    }
+    case ProcessorPath::Sse2:
+        return greyOfRgbSse2(tones, rgb, width, grey);
 #endif
-    return 0;
+    default:
+        return 0;
+    }
 }
 
 } // namespace

@@ -123,7 +123,7 @@ public:
     void row(const std::uint8_t *pixels, std::uint8_t *black, std::uint8_t *red) override
     {
         mSeparation.apply(pixels, mWidth, mPaper.data(), mRed.data(), mPath);
-        mMethod == HalftoneMethod::Binary ? divideWhole() : divideByShare();
+        divideInks();
         mScreen.apply(mRow, mPaper.data(), mWidth, red, mPath);
         mScreen.apply(mRow, mRed.data(), mWidth, black, mPath);
         ++mRow;
@@ -142,25 +142,24 @@ private:
         }
     }
 
-    /// The ink of a pixel is red where it has more red than black, else black.
-    void divideWhole()
+    /// The second row. Dither: thresholds up to the paper's share leave paper, those up to paper
+    /// and red red, the rest black. Binary, with its one threshold at half: ink is red where there
+    /// is more red than black, which is where red and half of the paper are half or more.
+    void divideInks()
     {
-        const std::uint8_t *paper = mPaper.data();
-        std::uint8_t *red = mRed.data();
-        for (std::size_t x = 0; x < mWidth; ++x) {
-            const auto black = std::uint8_t(255 - paper[x] - red[x]);
-            red[x] = red[x] > black ? 255 : 0;
+        if (mMethod == HalftoneMethod::Binary) {
+            addParts<2>(mPaper.data(), mWidth, mRed.data());
+        } else {
+            addParts<1>(mPaper.data(), mWidth, mRed.data());
         }
     }
 
-    /// Thresholds up to the paper's share leave paper, those up to paper and red red, the rest
-    /// black.
-    void divideByShare()
+    /// Adds one part of so many.
+    template <int kParts>
+    static void addParts(const std::uint8_t *from, std::size_t width, std::uint8_t *to)
     {
-        const std::uint8_t *paper = mPaper.data();
-        std::uint8_t *red = mRed.data();
-        for (std::size_t x = 0; x < mWidth; ++x) {
-            red[x] = std::uint8_t(paper[x] + red[x]);
+        for (std::size_t x = 0; x < width; ++x) {
+            to[x] = std::uint8_t(to[x] + from[x] / kParts);
         }
     }
 

@@ -16,6 +16,21 @@ unsigned part(unsigned amount, std::uint16_t of512)
     return (amount * 128 * of512) >> 16;
 }
 
+std::size_t separate(const FixedPointMap &tones, const RedBorder &border, const std::uint8_t *rgb,
+                     std::size_t width, std::uint8_t *paper, std::uint8_t *red, ProcessorPath path)
+{
+    switch (path) {
+#if defined(__x86_64__)
+    case ProcessorPath::Avx2:
+        return separateAvx2(tones, border, rgb, width, paper, red);
+    case ProcessorPath::Sse2:
+        return separateSse2(tones, border, rgb, width, paper, red);
+#endif
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 RedBorder redBorder(int redLevel)
@@ -55,11 +70,9 @@ void Separation::apply(const std::uint8_t *rgb, std::size_t width, std::uint8_t 
                        std::uint8_t *red, ProcessorPath path) const
 {
     std::size_t x = 0;
-#if defined(__x86_64__)
-    if (path == ProcessorPath::Avx2 && mTones.fixedPoint()) {
-        x = separateAvx2(*mTones.fixedPoint(), mBorder, rgb, width, paper, red);
+    if (mTones.fixedPoint()) {
+        x = separate(*mTones.fixedPoint(), mBorder, rgb, width, paper, red, path);
     }
-#endif
     const ToneTable &table = mTones.table();
     for (; x < width; ++x) {
         const std::uint8_t *pixel = rgb + x * 3;
