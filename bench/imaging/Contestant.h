@@ -29,16 +29,36 @@ struct Contestant
     std::string program;
     /// Does the page once. Fills `dots` when it is not null. Nothing when the program failed.
     std::function<std::optional<Run>(DotPage *dots)> run;
+    /// The same from file to file, for how much memory it takes.
+    std::string command;
 };
 
 /// Processor time of this process in milliseconds.
 double processorTime();
 
-/// This library, by each method and as the settings say. `rgb` takes the page's colours.
-std::vector<Contestant> ourContestants(const TestPage &page, const imaging::PageSettings &settings,
-                                       bool rgb);
+/// A page, and where the contestants find it as a file and may leave files of their own.
+struct PageFile
+{
+    const TestPage &page;
+    bool rgb = false;
+    std::string path; ///< PGM or PPM.
+    std::string folder;
+};
+
+/// Writes the page to the folder.
+PageFile pageFile(const TestPage &page, bool rgb, const std::string &folder,
+                  const std::string &name);
+
+/// This library, by each method and as the settings say.
+std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings);
 
 /// The peers that are installed. They get the page toned already, which saves them a step.
-std::vector<Contestant> magickContestants(const TestPage &toned, bool twoColors);
-std::vector<Contestant> programContestants(const TestPage &toned, bool twoColors,
-                                           const std::string &folder);
+std::vector<Contestant> magickContestants(const PageFile &toned, bool twoColors);
+std::vector<Contestant> programContestants(const PageFile &toned, bool twoColors);
+std::vector<Contestant> ghostscriptContestants(const PageFile &toned, bool twoColors);
+
+/// Whether a program can be found.
+bool has(const std::string &program);
+
+/// Adds the dots of a file that a program wrote: PBM, PPM or PAM. False when it cannot be read.
+bool readDots(const std::string &path, DotPage *dots);

@@ -4,7 +4,7 @@
 
 #ifdef HAVE_MAGICK
 
-#include <wand/MagickWand.h>
+#include "imaging/MagickWork.h"
 
 #include <memory>
 
@@ -16,24 +16,19 @@ struct Destroy
 };
 using Wand = std::unique_ptr<MagickWand, Destroy>;
 
+/// Null when the page is longer than ImageMagick's policy lets it be.
 Wand wandOf(const TestPage &page, bool rgb)
 {
+    if (page.height > MagickGetResourceLimit(HeightResource)) {
+        return nullptr;
+    }
     Wand wand(NewMagickWand());
     MagickConstituteImage(wand.get(), page.width, page.height, rgb ? "RGB" : "I", CharPixel,
                           rgb ? page.rgb.data() : page.grey.data());
     return wand;
 }
 
-/// White, black and perhaps red, a pixel each.
-Wand palette(std::size_t count)
-{
-    const std::uint8_t colors[] = {255, 255, 255, 0, 0, 0, 255, 0, 0};
-    Wand wand(NewMagickWand());
-    MagickConstituteImage(wand.get(), count, 1, "RGB", CharPixel, colors);
-    return wand;
-}
-
-void readDots(MagickWand *wand, const TestPage &page, DotPage *dots)
+void readWand(MagickWand *wand, const TestPage &page, DotPage *dots)
 {
     std::vector<std::uint8_t> rgb(page.width * page.height * 3);
     MagickExportImagePixels(wand, 0, 0, page.width, page.height, "RGB", CharPixel, rgb.data());
@@ -42,51 +37,42 @@ void readDots(MagickWand *wand, const TestPage &page, DotPage *dots)
     }
 }
 
-using Work = std::function<void(MagickWand *wand)>;
-
-Contestant contestant(const std::string &method, const TestPage &page, bool rgb, const Work &work)
+Contestant contestant(const std::string &method, const PageFile &page, bool twoColors)
 {
-    return {method, "ImageMagick", [&page, rgb, work](DotPage *dots) {
-                const Wand wand = wandOf(page, rgb);
+    const std::string work = method + (twoColors ? "3" : "");
+    return {method, "ImageMagick",
+            [page, twoColors, work](DotPage *dots) -> std::optional<Run> {
+                const Wand wand = wandOf(page.page, twoColors);
                 const double start = processorTime();
-                work(wand.get());
+                if (!wand || !doMagickWork(wand.get(), work)) {
+                    return {};
+                }
                 const Run run{processorTime() - start, {}};
                 if (dots) {
-                    readDots(wand.get(), page, dots);
+                    readWand(wand.get(), page.page, dots);
                 }
-                return std::optional(run);
-            }};
-}
-
-void remap(MagickWand *wand, std::size_t count, DitherMethod method)
-{
-    const Wand colors = palette(count);
-    MagickRemapImage(wand, colors.get(), method);
+                return run;
+            },
+            MAGICK_PAGE " " + work + " '" + page.path + "' '" + page.folder + "/magick.pnm'"};
 }
 
 } // namespace
 
-std::vector<Contestant> magickContestants(const TestPage &toned, bool twoColors)
+std::vector<Contestant> magickContestants(const PageFile &toned, bool twoColors)
 {
     MagickWandGenesis();
     MagickSetResourceLimit(ThreadResource, 1);
-    if (twoColors) {
-        return {contestant("threshold", toned, true,
-                           [](MagickWand *wand) { remap(wand, 3, NoDitherMethod); }),
-                contestant("diffusion", toned, true,
-                           [](MagickWand *wand) { remap(wand, 3, FloydSteinbergDitherMethod); })};
+    std::vector<Contestant> contestants{contestant("threshold", toned, twoColors),
+                                        contestant("diffusion", toned, twoColors)};
+    if (!twoColors) {
+        contestants.push_back(contestant("dither", toned, twoColors));
     }
-    return {contestant("threshold", toned, false,
-                       [](MagickWand *wand) { MagickThresholdImage(wand, 32767.5); }),
-            contestant("dither", toned, false,
-                       [](MagickWand *wand) { MagickOrderedPosterizeImage(wand, "o8x8"); }),
-            contestant("diffusion", toned, false,
-                       [](MagickWand *wand) { remap(wand, 2, FloydSteinbergDitherMethod); })};
+    return contestants;
 }
 
 #else
 
-std::vector<Contestant> magickContestants(const TestPage &, bool)
+std::vector<Contestant> magickContestants(const PageFile &, bool)
 {
     return {};
 }

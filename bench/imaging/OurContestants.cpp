@@ -44,16 +44,19 @@ double processorTime()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-std::vector<Contestant> ourContestants(const TestPage &page, const imaging::PageSettings &settings,
-                                       bool rgb)
+std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings)
 {
+    const bool twoColors = settings.colorMode == imaging::ColorMode::BlackRed;
     std::vector<Contestant> contestants;
     for (int method = 0; method < 3; ++method) {
         imaging::PageSettings one = settings;
         one.method = imaging::HalftoneMethod(method);
-        contestants.push_back({kMethods[method], "label-print", [&page, one, rgb](DotPage *dots) {
-                                   return prepare(page, one, rgb, dots);
-                               }});
+        const std::string name = kMethods[method];
+        contestants.push_back(
+            {name, "label-print",
+             [page, one](DotPage *dots) { return prepare(page.page, one, page.rgb, dots); },
+             PREPARE_PAGE " " + name + (twoColors ? "3" : "") + " '" + page.path + "' '"
+                 + page.folder + "/ours.pbm'"});
     }
     return contestants;
 }

@@ -1,107 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
-// Pillow, timed within its own process, and netpbm, whose programs count less one that only reads
-// and writes the same page.
+// Pillow, timed within its own process, netpbm, whose programs count less one that only reads and
+// writes the same page, and Ghostscript, which counts from its start to its end.
 #include "imaging/Contestant.h"
+#include "imaging/Measured.h"
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cctype>
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
-#include <iterator>
-#include <memory>
-#include <sstream>
 
 namespace {
 
-bool has(const std::string &program)
+Contestant pillow(const std::string &method, const PageFile &page, bool twoColors)
 {
-    return std::system(("command -v " + program + " >/dev/null 2>&1").c_str()) == 0;
-}
-
-/// Processor time of `command` in milliseconds, its output going to `out`.
-std::optional<double> timed(const std::string &command, const std::string &out)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        const std::string line = "exec " + command + " >'" + out + "' 2>/dev/null";
-        execl("/bin/sh", "sh", "-c", line.c_str(), nullptr);
-        _exit(127);
-    }
-    int status = 0;
-    rusage usage{};
-    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
-        return {};
-    }
-    const auto ms = [](const timeval &time) {
-        return double(time.tv_sec) * 1e3 + double(time.tv_usec) / 1e3;
-    };
-    return ms(usage.ru_utime) + ms(usage.ru_stime);
-}
-
-struct DotFile
-{
-    std::string kind;
-    std::size_t width = 0;
-    std::size_t height = 0;
-};
-
-/// The head of a PPM file or of a PAM file of one byte a pixel.
-DotFile readHead(std::istream *file)
-{
-    DotFile head;
-    *file >> head.kind;
-    if (head.kind == "P6") {
-        int largest = 0;
-        *file >> head.width >> head.height >> largest;
-        file->get();
-        return head;
-    }
-    std::string word;
-    while (*file >> word && word != "ENDHDR") {
-        if (word == "WIDTH") {
-            *file >> head.width;
-        } else if (word == "HEIGHT") {
-            *file >> head.height;
-        }
-    }
-    file->get();
-    return head;
-}
-
-/// The dots that a program wrote.
-bool readDots(const std::string &path, DotPage *dots)
-{
-    std::ifstream file(path, std::ios::binary);
-    const DotFile head = readHead(&file);
-    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    const std::size_t samples = head.kind == "P6" ? 3 : 1;
-    const std::size_t count = head.width * head.height;
-    if (count == 0 || bytes.size() < count * samples) {
-        return false;
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        const char *pixel = &bytes[i * samples];
-        if (samples == 1) {
-            dots->push_back(pixel[0] == 0 ? 1 : 0);
-        } else {
-            dots->push_back(pixel[0] == 0 ? 1 : pixel[1] == 0 ? 2 : 0);
-        }
-    }
-    return true;
-}
-
-Contestant pillow(const std::string &method, const std::string &page, bool twoColors,
-                  const std::string &folder)
-{
-    const std::string out = folder + "/pillow.out";
-    const std::string dotFile = folder + "/pillow.ppm";
-    const std::string command = "/usr/bin/python3 " PILLOW_PEER " '" + page + "' " + method
+    const std::string out = page.folder + "/pillow.out";
+    const std::string dotFile = page.folder + "/pillow.ppm";
+    const std::string command = "/usr/bin/python3 " PILLOW_PEER " '" + page.path + "' " + method
         + (twoColors ? "3" : "") + " '" + dotFile + "'";
-    return {method, "Pillow", [=](DotPage *dots) -> std::optional<Run> {
-                if (!timed(command, out)) {
+    return {method, "Pillow",
+            [=](DotPage *dots) -> std::optional<Run> {
+                if (!measured(command, out)) {
                     return {};
                 }
                 std::ifstream file(out);
@@ -114,57 +30,97 @@ Contestant pillow(const std::string &method, const std::string &page, bool twoCo
                     run.packed = packed;
                 }
                 return run;
-            }};
+            },
+            command};
 }
 
-Contestant netpbm(const std::string &method, const std::string &command, const std::string &page,
-                  const std::string &folder)
+Contestant netpbm(const std::string &method, const std::string &program, const PageFile &page)
 {
-    const std::string out = folder + "/netpbm.out";
-    const std::string baseline = "pamtopnm '" + page + "'";
-    return {method, "netpbm", [=](DotPage *dots) -> std::optional<Run> {
-                const auto copied = timed(baseline, folder + "/netpbm.copy");
-                const auto took = timed(command + " '" + page + "'", out);
+    const std::string out = page.folder + "/netpbm.out";
+    const std::string baseline = "pamtopnm '" + page.path + "'";
+    const std::string command = program + " '" + page.path + "'";
+    return {method, "netpbm",
+            [=](DotPage *dots) -> std::optional<Run> {
+                const auto copied = measured(baseline, page.folder + "/netpbm.copy");
+                const auto took = measured(command, out);
                 if (!copied || !took || (dots && !readDots(out, dots))) {
                     return {};
                 }
-                const double net = *took - *copied;
+                const double net = took->milliseconds - copied->milliseconds;
                 return Run{net, net};
-            }};
+            },
+            command};
 }
 
-void writePage(const TestPage &page, bool rgb, const std::string &path)
+/// A PostScript file that shows the page's pixels as they are, one a dot.
+std::string postScriptFile(const PageFile &page, const std::string &screen)
 {
+    const std::string path = page.folder + "/page" + (screen.empty() ? "" : "-screen") + ".ps";
+    const auto width = std::to_string(page.page.width);
+    const auto height = std::to_string(page.page.height);
+    const std::string points = std::to_string(double(page.page.width) * 72.0 / 300.0) + ' '
+        + std::to_string(double(page.page.height) * 72.0 / 300.0);
     std::ofstream file(path, std::ios::binary);
-    file << (rgb ? "P6\n" : "P5\n") << page.width << ' ' << page.height << "\n255\n";
-    const auto &bytes = rgb ? page.rgb : page.grey;
-    file.write(reinterpret_cast<const char *>(bytes.data()), std::streamsize(bytes.size()));
+    file << "%!PS\n<</PageSize [" << points << "]>> setpagedevice\n"
+         << screen << "/DeviceGray setcolorspace\n"
+         << points << " scale\n<</ImageType 1 /Width " << width << " /Height " << height
+         << " /BitsPerComponent 8 /Decode [0 1] /ImageMatrix [" << width << " 0 0 -" << height
+         << " 0 " << height << "] /DataSource currentfile>> image\n";
+    file.write(reinterpret_cast<const char *>(page.page.grey.data()),
+               std::streamsize(page.page.grey.size()));
+    file << "\nshowpage\n";
+    return path;
+}
+
+Contestant ghostscript(const std::string &method, const PageFile &page, const std::string &screen)
+{
+    const std::string out = page.folder + "/gs.pbm";
+    const std::string command = "gs -q -dSAFER -dBATCH -dNOPAUSE -sDEVICE=pbmraw -r300 "
+                                "-sOutputFile='"
+        + out + "' '" + postScriptFile(page, screen) + "'";
+    return {method, "Ghostscript",
+            [=](DotPage *dots) -> std::optional<Run> {
+                const auto took = measured(command, page.folder + "/gs.out");
+                if (!took || (dots && !readDots(out, dots))) {
+                    return {};
+                }
+                return Run{took->milliseconds, took->milliseconds};
+            },
+            command};
 }
 
 } // namespace
 
-std::vector<Contestant> programContestants(const TestPage &toned, bool twoColors,
-                                           const std::string &folder)
+std::vector<Contestant> programContestants(const PageFile &toned, bool twoColors)
 {
-    const std::string page = folder + (twoColors ? "/page.ppm" : "/page.pgm");
-    writePage(toned, twoColors, page);
     std::vector<Contestant> contestants;
     if (std::system("/usr/bin/python3 -c 'import PIL' 2>/dev/null") == 0) {
-        contestants.push_back(pillow("threshold", page, twoColors, folder));
-        contestants.push_back(pillow("diffusion", page, twoColors, folder));
+        contestants.push_back(pillow("threshold", toned, twoColors));
+        contestants.push_back(pillow("diffusion", toned, twoColors));
     }
     if (has("pamditherbw") && has("pnmremap") && twoColors) {
-        const std::string palette = folder + "/palette.ppm";
+        const std::string palette = toned.folder + "/palette.ppm";
         std::ofstream(palette, std::ios::binary) << "P6\n3 1\n255\n"
                                                  << std::string("\xFF\xFF\xFF\0\0\0\xFF\0\0", 9);
         const std::string remap = "pnmremap -mapfile='" + palette + "' ";
-        contestants.push_back(netpbm("threshold", remap + "-nofloyd", page, folder));
-        contestants.push_back(netpbm("diffusion", remap + "-floyd", page, folder));
+        contestants.push_back(netpbm("threshold", remap + "-nofloyd", toned));
+        contestants.push_back(netpbm("diffusion", remap + "-floyd", toned));
     } else if (has("pamditherbw")) {
         const std::string toPbm = "pamditherbw ";
-        contestants.push_back(netpbm("threshold", toPbm + "-threshold", page, folder));
-        contestants.push_back(netpbm("dither", toPbm + "-dither8", page, folder));
-        contestants.push_back(netpbm("diffusion", toPbm + "-floyd", page, folder));
+        contestants.push_back(netpbm("threshold", toPbm + "-threshold", toned));
+        contestants.push_back(netpbm("dither", toPbm + "-dither8", toned));
+        contestants.push_back(netpbm("diffusion", toPbm + "-floyd", toned));
     }
     return contestants;
+}
+
+std::vector<Contestant> ghostscriptContestants(const PageFile &toned, bool twoColors)
+{
+    if (twoColors || !has("gs")) {
+        return {};
+    }
+    // A screen of one place is a threshold.
+    const std::string threshold =
+        "<</HalftoneType 3 /Width 1 /Height 1 /Thresholds <80>>> sethalftone\n";
+    return {ghostscript("threshold", toned, threshold), ghostscript("dither", toned, "")};
 }
