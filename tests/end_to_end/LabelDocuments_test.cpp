@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/DocumentPages.h"
+#include "end_to_end/ScannedCodes.h"
 #include "support/LabelDocuments.h"
 
 #include <QTemporaryDir>
@@ -7,41 +8,9 @@
 #include <algorithm>
 #include <set>
 
-#include <ZXing/ReadBarcode.h>
 #include <gmock/gmock.h>
 
 namespace {
-
-using Texts = std::set<std::pair<std::string, std::string>>;
-
-Texts expected(const std::vector<LabelCode> &codes)
-{
-    Texts texts;
-    for (const LabelCode &code : codes) {
-        texts.insert({code.format.toStdString(), code.text.toStdString()});
-    }
-    return texts;
-}
-
-/// What a scanner reads at the codes' places, in a picture as many times as large as the document.
-/// One by one: reading the whole picture finds a row of bars at several scales, which makes an
-/// assertion of ZXing 1.4 end the program.
-Texts read(const QImage &picture, const std::vector<LabelCode> &codes, int scale = 1)
-{
-    const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
-    constexpr int kQuiet = 14;
-    Texts texts;
-    for (const LabelCode &code : codes) {
-        const QRect place = code.place.adjusted(-kQuiet, -kQuiet, kQuiet, kQuiet);
-        const QImage part = grey.copy(
-            QRect(place.topLeft() * scale, place.size() * scale).intersected(grey.rect()));
-        const ZXing::ImageView view(part.constBits(), part.width(), part.height(),
-                                    ZXing::ImageFormat::Lum, static_cast<int>(part.bytesPerLine()));
-        const auto result = ZXing::ReadBarcode(view);
-        texts.insert({ToString(result.format()), result.text()});
-    }
-    return texts;
-}
 
 bool isPure(QRgb pixel)
 {
@@ -51,11 +20,11 @@ bool isPure(QRgb pixel)
 TEST(LabelDocuments, EveryCodeCanBeReadFromThePictureOfItsPage)
 {
     const LabelDocuments documents(LabelLook{.pages = 2});
-    EXPECT_EQ(expected(documents.codes(0)).size(), 4U);
-    EXPECT_NE(expected(documents.codes(0)), expected(documents.codes(1)));
+    EXPECT_EQ(textsOf(documents.codes(0)).size(), 4U);
+    EXPECT_NE(textsOf(documents.codes(0)), textsOf(documents.codes(1)));
     for (int page : {0, 1}) {
-        EXPECT_EQ(read(documents.picture(page), documents.codes(page)),
-                  expected(documents.codes(page)));
+        EXPECT_EQ(scanned(documents.picture(page), documents.codes(page)),
+                  textsOf(documents.codes(page)));
     }
 }
 
@@ -72,8 +41,8 @@ TEST(LabelDocuments, EveryCodeCanBeReadFromThePagesOfEachFile)
         ASSERT_EQ(document.value()->pageCount(), path.endsWith(QStringLiteral("pdf")) ? 2 : 1);
         for (int page = 0; page < document.value()->pageCount(); ++page) {
             EXPECT_EQ(
-                read(document.value()->render(page, pixels).value(), documents.codes(page), 2),
-                expected(documents.codes(page)))
+                scanned(document.value()->render(page, pixels).value(), documents.codes(page), 2),
+                textsOf(documents.codes(page)))
                 << path.toStdString();
         }
         const QSizeF points = QSizeF(documents.look().dots) * 72 / documents.look().dotsPerInch;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "end_to_end/PrintRun.h"
 
+#include "end_to_end/Dots.h"
 #include "filter/StockPpd.h"
 
 #include <QFile>
 #include <QProcess>
 
+#include <ostream>
 #include <stdexcept>
 
 namespace {
@@ -21,6 +23,18 @@ void writeFile(const QString &path, const QByteArray &bytes)
 }
 
 } // namespace
+
+std::vector<StockPrinter> stockPrinters()
+{
+    return {{"dymo", "w162h288"},     {"intelbar", "Custom.50x95mm"},
+            {"zebra", "w144h288"},    {"zebracpl", "Custom.50x95mm"},
+            {"zebraep1", "w144h288"}, {"zebraep2", "w144h288"}};
+}
+
+void PrintTo(const StockPrinter &printer, std::ostream *to)
+{
+    *to << printer.size;
+}
 
 imaging::PageSettings settingsOf(const QStringList &options)
 {
@@ -40,6 +54,24 @@ imaging::PageSettings settingsOf(const QStringList &options)
         settings.colorMode = imaging::ColorMode::BlackRed;
     }
     return settings;
+}
+
+std::size_t wrongOutsideOfPhoto(const PrintedLabel &label, const LabelDocuments &documents)
+{
+    const QImage picture = documents.picture();
+    if (label.rowBytes != std::size_t(picture.width() + 7) / 8) {
+        throw std::runtime_error("the label is not as wide as the document");
+    }
+    const Dots dots = label.dotsOf(std::size_t(picture.height()));
+    std::size_t wrong = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const bool isBlack = qGray(picture.pixel(x, y)) == 0;
+            const bool isDot = isInk(dots, label.rowBytes, std::size_t(x), std::size_t(y));
+            wrong += isBlack != isDot && !documents.photo().contains(x, y) ? 1 : 0;
+        }
+    }
+    return wrong;
 }
 
 PrintRun::PrintRun()
@@ -81,8 +113,17 @@ QByteArray PrintRun::printed(const QString &printer, const QString &document,
         arguments << QStringLiteral("-o") << option;
     }
     mServer.administer(QStringLiteral("lp"), arguments << document);
+    return arrived(printer);
+}
+
+QByteArray PrintRun::arrived(const QString &printer)
+{
     ++mJobs;
-    return mPrinters.at(printer)->nextJob();
+    try {
+        return mPrinters.at(printer)->nextJob();
+    } catch (const std::runtime_error &late) {
+        throw std::runtime_error(late.what() + mServer.log().prepend(u'\n').toStdString());
+    }
 }
 
 PrintedJob PrintRun::job(const QString &printer, const QString &document,

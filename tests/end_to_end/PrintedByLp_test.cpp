@@ -8,12 +8,6 @@
 
 namespace {
 
-struct StockPrinter
-{
-    const char *name;
-    const char *size;
-};
-
 class PrintedByLp : public PrintRun, public testing::WithParamInterface<StockPrinter>
 { };
 
@@ -43,11 +37,7 @@ TEST_P(PrintedByLp, TheDotsAtThePrinterAreThoseOfTheImagingLibrary)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, PrintedByLp,
-    testing::Values(StockPrinter{"dymo", "w162h288"}, StockPrinter{"intelbar", "Custom.162x288"},
-                    StockPrinter{"zebra", "w162h288"}, StockPrinter{"zebracpl", "Custom.162x288"},
-                    StockPrinter{"zebraep1", "w162h288"}, StockPrinter{"zebraep2", "w162h288"}),
-    [](const auto &printer) { return std::string(printer.param.name); });
+INSTANTIATE_TEST_SUITE_P(All, PrintedByLp, testing::ValuesIn(stockPrinters()),
+                         [](const auto &printer) { return std::string(printer.param.name); });
 
 } // namespace

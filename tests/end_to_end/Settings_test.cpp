@@ -109,22 +109,10 @@ TEST_F(Settings, TheHalftoneChangesThePhotoAndLeavesBlackTextAndCodes)
 
 TEST_F(Settings, TextAndCodesAreDotForDotTheDocuments)
 {
-    const LabelDocuments documents;
-    const QImage picture = documents.picture();
     for (const char *method : {"Binary", "Dither", "ErrorDiffusion"}) {
         const Print got = print(method);
-        ASSERT_EQ(got.page.header.cupsWidth, unsigned(picture.width()));
-        ASSERT_EQ(got.page.header.cupsHeight, unsigned(picture.height()));
-        const std::size_t rowBytes = (got.page.header.cupsWidth + 7) / 8;
-        std::size_t wrong = 0;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                const bool isBlack = qGray(picture.pixel(x, y)) == 0;
-                const bool isDot = isInk(got.dots, rowBytes, std::size_t(x), std::size_t(y));
-                wrong += isBlack != isDot && !documents.photo().contains(x, y) ? 1 : 0;
-            }
-        }
-        EXPECT_EQ(wrong, 0U) << method;
+        const PrintedLabel label{(got.page.header.cupsWidth + 7) / 8, got.dots};
+        EXPECT_EQ(wrongOutsideOfPhoto(label, LabelDocuments()), 0U) << method;
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // A printer of black and red whose own filter hands its raster on, so that both reach its socket.
+#include "end_to_end/DialogPrint.h"
 #include "end_to_end/Dots.h"
-#include "end_to_end/PrintRun.h"
 #include "filter/GraphicsDots.h"
 #include "filter/SmallPpd.h"
 #include "support/LabelDocuments.h"
@@ -67,7 +67,7 @@ struct Planes
     int strange = 0;
 };
 
-class TwoColours : public PrintRun
+class TwoColours : public DialogPrint
 {
 protected:
     TwoColours()
@@ -89,7 +89,12 @@ protected:
 
     Planes print(const QStringList &options)
     {
-        const auto pages = pagesOf(printed(kPrinter, mDocument, optionsOf(options)).toStdString());
+        return planesOf(printed(kPrinter, mDocument, optionsOf(options)));
+    }
+
+    static Planes planesOf(const QByteArray &raster)
+    {
+        const auto pages = pagesOf(raster.toStdString());
         if (pages.size() != 1) {
             throw std::runtime_error("this is not one label");
         }
@@ -98,8 +103,7 @@ protected:
 
     static QStringList optionsOf(const QStringList &options)
     {
-        return QStringList{QStringLiteral("Resolution=300dpi"), QStringLiteral("Darkness=20"),
-                           QStringLiteral("print-scaling=fit")}
+        return QStringList{QStringLiteral("Resolution=300dpi"), QStringLiteral("Darkness=20")}
         + options;
     }
 
@@ -160,6 +164,23 @@ TEST_F(TwoColours, TheDotsAtThePrinterAreThoseOfTheImagingLibrary)
         EXPECT_TRUE(planes.red == expected.red) << method;
         EXPECT_GT(inkOf(planes.black), 1000U);
         EXPECT_GT(inkOf(planes.red), 1000U);
+    }
+}
+
+TEST_F(TwoColours, TheDialogPrintsTheTwoColoursOfItsPreview)
+{
+    for (const QStringList &chosen :
+         {red("Binary", -5), red("Dither", 20), red("ErrorDiffusion", 3)}) {
+        const QStringList options = optionsOf(chosen);
+        const Planes planes = planesOf(printedByDialog(kPrinter, mDocument, options));
+        const dialog::PageDots expected = preview(kPrinter, mDocument, options);
+        EXPECT_EQ(planes.header.cupsWidth, unsigned(expected.form.dots.width()));
+        EXPECT_EQ(planes.header.cupsHeight, unsigned(expected.form.dots.height()));
+        EXPECT_TRUE(planes.black == expected.black);
+        EXPECT_TRUE(planes.red == expected.red);
+        EXPECT_EQ(planes.strange, 0);
+        EXPECT_GT(inkOf(planes.red), 1000U);
+        expectPureRedIsRed(planes);
     }
 }
 
