@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/FolderPrinter.h"
 
+#include "dialog/DotPictures.h"
 #include "dialog/JobLog.h"
+#include "dialog/NewFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,8 +11,6 @@
 
 #include <algorithm>
 #include <cstdio>
-
-#include <unistd.h>
 
 namespace dialog {
 
@@ -50,14 +50,6 @@ private:
     bool mIsMade;
 };
 
-Failure writeFailure(const QFile &file)
-{
-    return folderFailure(file.fileName(),
-                         FolderPrinter::tr("cannot be written (%1); choose another folder or make "
-                                           "room")
-                             .arg(file.errorString()));
-}
-
 /// The document's name as a file name: without folders, and with nothing in it that a shell, a
 /// desktop or another system's file system stumbles over.
 QString fileNameFor(const PrintDocument &document)
@@ -76,13 +68,10 @@ QString fileNameFor(const PrintDocument &document)
     while (name.toUtf8().size() > 200) {
         name.remove(0, name.front().isHighSurrogate() ? 2 : 1);
     }
+    if (DotPictures::mayBeCalled(name)) {
+        name.prepend(QStringLiteral("document-"));
+    }
     return name.isEmpty() || name == kSettings ? QStringLiteral("document") : name;
-}
-
-std::optional<Failure> flush(QFile &file)
-{
-    const bool isWritten = file.flush() && ::fsync(file.handle()) == 0;
-    return isWritten ? std::nullopt : std::optional(writeFailure(file));
 }
 
 std::optional<Failure> writeSettings(const QString &path, const JobSettings &settings)
@@ -92,11 +81,14 @@ std::optional<Failure> writeSettings(const QString &path, const JobSettings &set
         return Failure{FailureKind::Settings, settings.title(),
                        FolderPrinter::tr("the settings of the job cannot be written down")};
     }
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write(*xml) != xml->size()) {
-        return writeFailure(file);
+    NewFile file(path);
+    if (auto failure = file.open()) {
+        return failure;
     }
-    return flush(file);
+    if (auto failure = file.write(xml->constData(), xml->size())) {
+        return failure;
+    }
+    return file.finish();
 }
 
 std::optional<Failure> copyDocument(PrintDocument &document, const QString &path)
@@ -105,9 +97,9 @@ std::optional<Failure> copyDocument(PrintDocument &document, const QString &path
     if (!source) {
         return source.failure();
     }
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return writeFailure(file);
+    NewFile file(path);
+    if (auto failure = file.open()) {
+        return failure;
     }
     constexpr qint64 kBlock = 1 << 20;
     QByteArray block(kBlock, Qt::Uninitialized);
@@ -119,12 +111,24 @@ std::optional<Failure> copyDocument(PrintDocument &document, const QString &path
                 FolderPrinter::tr("cannot be read (%1)").arg(source.value()->errorString())};
         }
         if (count == 0) {
-            return flush(file);
+            return file.finish();
         }
-        if (file.write(block.constData(), count) != count) {
-            return writeFailure(file);
+        if (auto failure = file.write(block.constData(), count)) {
+            return failure;
         }
     }
+}
+
+std::optional<Failure> fill(const UnfinishedFolder &folder, const QString &name, PrintJob &job,
+                            const BandsDone &progress)
+{
+    if (auto failure = copyDocument(job.document, folder.filePath(name))) {
+        return failure;
+    }
+    if (auto failure = writeSettings(folder.filePath(kSettings), job.settings)) {
+        return failure;
+    }
+    return job.dots ? DotPictures(*job.dots).writeInto(folder.path(), progress) : std::nullopt;
 }
 
 QString nameOf(int number)
@@ -170,7 +174,12 @@ FolderPrinter::FolderPrinter(QString folder)
     : mFolder(std::move(folder))
 { }
 
-Result<FolderJob> FolderPrinter::print(PrintJob job) const
+QString FolderPrinter::pathOf(int number) const
+{
+    return QDir(mFolder).filePath(nameOf(number));
+}
+
+Result<FolderJob> FolderPrinter::print(PrintJob job, const BandsDone &progress) const
 {
     const QDir folder(mFolder);
     if (mFolder.isEmpty()) {
@@ -184,10 +193,7 @@ Result<FolderJob> FolderPrinter::print(PrintJob job) const
         return folderFailure(mFolder, tr("cannot be written to; choose another folder"));
     }
     const QString name = fileNameFor(job.document);
-    if (const auto failure = copyDocument(job.document, unfinished.filePath(name))) {
-        return *failure;
-    }
-    if (const auto failure = writeSettings(unfinished.filePath(kSettings), job.settings)) {
+    if (const auto failure = fill(unfinished, name, job, progress)) {
         return *failure;
     }
     JobLog log(folder.filePath(QStringLiteral("jobs.log")));
@@ -198,7 +204,7 @@ Result<FolderJob> FolderPrinter::print(PrintJob job) const
     if (number == 0) {
         return folderFailure(mFolder, tr("takes no more jobs; choose another folder"));
     }
-    const QString path = folder.filePath(nameOf(number));
+    const QString path = pathOf(number);
     const FolderJob done{number, path, path + QLatin1Char('/') + name,
                          path + QLatin1Char('/') + kSettings};
     if (const auto failure = log.append(nameOf(number), job)) {

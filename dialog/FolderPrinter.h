@@ -12,7 +12,7 @@ namespace dialog {
 struct FolderJob
 {
     int number = 0;
-    /// The job's own folder and the two files in it.
+    /// The job's own folder and two files in it.
     QString path;
     QString document;
     QString settings;
@@ -20,9 +20,10 @@ struct FolderJob
 
 /// Prints into a folder, without any server.
 ///
-/// Each job gets a folder of its own, job-0001 and so on, with the document as it was and
-/// settings.plist, and one line in jobs.log. The job's folder appears whole or not at all; several
-/// programs may print into the same folder. What is there already is never overwritten.
+/// Each job gets a folder of its own, job-0001 and so on, with the document as it was,
+/// settings.plist and the dots of its pages (DotPictures), and one line in jobs.log. The folder
+/// appears whole or not at all; several programs may print into the same folder. What is there
+/// already is never overwritten.
 class FolderPrinter
 {
     Q_DECLARE_TR_FUNCTIONS(dialog::FolderPrinter)
@@ -31,7 +32,12 @@ public:
     /// The folder is made with the first job when it is not there yet.
     explicit FolderPrinter(QString folder);
 
-    Result<FolderJob> print(PrintJob job) const;
+    /// The failure is FailureKind::Cancelled when `progress`, which follows the pictures, says no.
+    Result<FolderJob> print(
+        PrintJob job, const BandsDone &progress = [](int, int) { return true; }) const;
+
+    /// The folder of job `number`.
+    QString pathOf(int number) const;
 
     /// The settings of a job from its settings.plist.
     static Result<JobSettings> readSettings(const QString &path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/JobSender.h"
 
+#include "dialog/FolderPrinter.h"
 #include "dialog/NetworkThreads.h"
 
 #include <QByteArray>
@@ -10,7 +11,7 @@ namespace dialog {
 
 namespace {
 
-using Progress = std::function<void(qint64, qint64)>;
+using Progress = JobSending::Progress;
 
 Failure cancelledFailure(const PrintJob &job)
 {
@@ -93,16 +94,28 @@ Result<int> sendJob(CupsServer &server, PrintJob job, CancelFlag &cancel, const 
     return *failure;
 }
 
-JobSending::JobSending(std::shared_ptr<CupsServer> server, PrintJob job)
-    : mServer(std::move(server))
-    , mJob(std::move(job))
+Result<int> printInto(const QString &folder, const PrintJob &job, const CancelFlag &cancel,
+                      const Progress &progress)
+{
+    const auto done = FolderPrinter(folder).print(job, [&](int bands, int all) {
+        progress(bands, all);
+        return !cancel.isSet();
+    });
+    if (done) {
+        return done.value().number;
+    }
+    const bool isCancelled = done.failure().kind == FailureKind::Cancelled;
+    return isCancelled ? cancelledFailure(job) : done.failure();
+}
+
+JobSending::JobSending(Work work)
+    : mWork(std::move(work))
 { }
 
 void JobSending::run()
 {
-    const auto number = sendJob(*mServer, mJob, mCancel, [this](qint64 bytes, qint64 total) {
-        Q_EMIT progressed(bytes, total);
-    });
+    const auto number =
+        mWork(mCancel, [this](qint64 done, qint64 total) { Q_EMIT progressed(done, total); });
     if (number) {
         Q_EMIT sent(number.value());
     } else {
@@ -122,10 +135,24 @@ JobSender::~JobSender()
 
 bool JobSender::send(const PrintJob &job)
 {
+    return start([server = mServer, job](CancelFlag &cancel, const Progress &progress) {
+        return sendJob(*server, job, cancel, progress);
+    });
+}
+
+bool JobSender::sendInto(const QString &folder, const PrintJob &job)
+{
+    return start([folder, job](const CancelFlag &cancel, const Progress &progress) {
+        return printInto(folder, job, cancel, progress);
+    });
+}
+
+bool JobSender::start(const JobSending::Work &work)
+{
     if (isBusy()) {
         return false;
     }
-    mSending = std::make_shared<JobSending>(mServer, job);
+    mSending = std::make_shared<JobSending>(work);
     connect(mSending.get(), &JobSending::progressed, this, &JobSender::progressed,
             Qt::QueuedConnection);
     connect(

@@ -18,13 +18,21 @@ namespace dialog {
 Result<int> sendJob(CupsServer &server, PrintJob job, CancelFlag &cancel,
                     const std::function<void(qint64 done, qint64 total)> &progress);
 
-/// Sends one job in the background. Each object is good for one job.
+/// Prints `job` into `folder`, in the same way; the number of its folder there.
+Result<int> printInto(const QString &folder, const PrintJob &job, const CancelFlag &cancel,
+                      const std::function<void(qint64 done, qint64 total)> &progress);
+
+/// Prints one job in the background. Each object is good for one job.
 class JobSending : public QObject
 {
     Q_OBJECT
 
 public:
-    JobSending(std::shared_ptr<CupsServer> server, PrintJob job);
+    using Progress = std::function<void(qint64 done, qint64 total)>;
+    /// Gives the number of the job.
+    using Work = std::function<Result<int>(CancelFlag &cancel, const Progress &progress)>;
+
+    explicit JobSending(Work work);
 
     /// In the worker: emits `progressed` now and then, and one of the others at the end.
     void run();
@@ -36,13 +44,12 @@ Q_SIGNALS:
     void failed(const dialog::Failure &failure);
 
 private:
-    std::shared_ptr<CupsServer> mServer;
-    PrintJob mJob;
+    Work mWork;
     CancelFlag mCancel;
 };
 
-/// Sends jobs to the print server, one at a time, without keeping the interface thread waiting. A
-/// sender that goes while it is busy cancels the job.
+/// Sends jobs to the print server, or into a folder, one at a time, without keeping the interface
+/// thread waiting. A sender that goes while it is busy cancels the job.
 class JobSender : public QObject
 {
     Q_OBJECT
@@ -55,17 +62,21 @@ public:
 
     /// False when it is busy.
     bool send(const PrintJob &job);
+    /// The same, into `folder`.
+    bool sendInto(const QString &folder, const PrintJob &job);
 
     /// `failed` follows with FailureKind::Cancelled, unless the job was sent already.
     void cancel();
 
 Q_SIGNALS:
     void progressed(qint64 done, qint64 total);
-    /// The server has the whole job; `job` is its number there.
+    /// The server, or the folder, has the whole job; `job` is its number there.
     void sent(int job);
     void failed(const dialog::Failure &failure);
 
 private:
+    bool start(const JobSending::Work &work);
+
     std::shared_ptr<CupsServer> mServer;
     std::shared_ptr<JobSending> mSending;
 };

@@ -28,9 +28,7 @@ PrintController::PrintController(std::shared_ptr<CupsServer> server, PlugIns plu
             [this](const QString &, const Failure &failure) { Q_EMIT setupFailed(failure); });
     connect(&mSender, &JobSender::progressed, this, &PrintController::progressed);
     connect(&mSender, &JobSender::failed, this, &PrintController::jobFailed);
-    connect(&mSender, &JobSender::sent, this, [this](int job) {
-        Q_EMIT printed(tr("Sent to %1 as job %2").arg(mPrinter.title()).arg(job));
-    });
+    connect(&mSender, &JobSender::sent, this, [this](int job) { Q_EMIT printed(whereIs(job)); });
 }
 
 PrintController::~PrintController() = default;
@@ -138,48 +136,42 @@ bool PrintController::print(const std::shared_ptr<const DocumentPages> &document
         Q_EMIT jobFailed(*failure);
         return true;
     }
-    const Result<PrintDocument> sent = documentFor(document);
-    if (!sent) {
-        Q_EMIT jobFailed(sent.failure());
+    const Result<PrintJob> job = jobFor(document);
+    if (!job) {
+        Q_EMIT jobFailed(job.failure());
         return true;
     }
-    const PrintJob job{mPrinter.name, sent.value(), mSetup->settings()};
-    if (mPrinter.isFolder) {
-        printToFolder(job);
-        return true;
-    }
-    return mSender.send(job);
+    return mPrinter.isFolder ? mSender.sendInto(mFolder.output, job.value())
+                             : mSender.send(job.value());
 }
 
-// The pages as they are previewed, where the queue takes them; else the document itself.
-Result<PrintDocument>
-PrintController::documentFor(const std::shared_ptr<const DocumentPages> &document)
+// A queue gets the pages as they are previewed, where it takes them; else the document itself.
+Result<PrintJob> PrintController::jobFor(const std::shared_ptr<const DocumentPages> &document)
 {
-    if (!mPrinter.isFolder && mSetup->ppd()) {
-        ppd_file_t *ppd = mSetup->ppd()->file();
-        const auto dots = DotPages::of(document, ppd, mSetup->sheet(), mSetup->settings());
-        const auto raster =
-            dots ? RasterDocument::of(*dots, ppd, mSetup->settings().copies()) : std::nullopt;
+    ppd_file_t *ppd = mSetup->ppd() ? mSetup->ppd()->file() : nullptr;
+    PrintJob job{mPrinter.name, {}, mSetup->settings()};
+    job.dots = DotPages::of(document, ppd, mSetup->sheet(), job.settings);
+    if (job.dots && !mPrinter.isFolder) {
+        const auto raster = RasterDocument::of(*job.dots, ppd, job.settings.copies());
         if (raster) {
-            return PrintDocument::fromPages(*raster, document->title());
+            job.document = PrintDocument::fromPages(*raster, document->title());
+            return job;
         }
     }
     const Result<PrintableDocument> printable = document->printable();
     if (!printable) {
         return printable.failure();
     }
-    return PrintDocument::fromBytes(printable.value().data, printable.value().mimeType,
-                                    document->title());
+    job.document = PrintDocument::fromBytes(printable.value().data, printable.value().mimeType,
+                                            document->title());
+    return job;
 }
 
-void PrintController::printToFolder(const PrintJob &job)
+QString PrintController::whereIs(int job) const
 {
-    const Result<FolderJob> done = FolderPrinter(mFolder.output).print(job);
-    if (done) {
-        Q_EMIT printed(tr("Printed to the folder %1").arg(done.value().path));
-    } else {
-        Q_EMIT jobFailed(done.failure());
-    }
+    return mPrinter.isFolder
+        ? tr("Printed to the folder %1").arg(FolderPrinter(mFolder.output).pathOf(job))
+        : tr("Sent to %1 as job %2").arg(mPrinter.title()).arg(job);
 }
 
 void PrintController::close(bool userCancelled)

@@ -79,8 +79,8 @@ private:
     OptionChoices wishesFor(const PpdFile *ppd) const;
     void complainOfOtherChoices(const OptionChoices &wishes);
     void dropSetup();
-    Result<PrintDocument> documentFor(const std::shared_ptr<const DocumentPages> &document);
-    void printToFolder(const PrintJob &job);
+    Result<PrintJob> jobFor(const std::shared_ptr<const DocumentPages> &document);
+    QString whereIs(int job) const;
 
     PlugIns mPlugIns;
     Folder mFolder;

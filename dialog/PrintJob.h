@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "dialog/DotPages.h"
 #include "dialog/JobSettings.h"
 #include "dialog/PrintDocument.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace dialog {
 
@@ -15,6 +18,8 @@ struct PrintJob
     QString printer;
     PrintDocument document;
     JobSettings settings;
+    /// The pages as dots, where the printer's PPD says how to make them; for the folder printer.
+    std::optional<DotPages> dots = {};
 
     /// The settings' title, or else the document's name.
     QString title() const

@@ -297,6 +297,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotPictures</name>
+    <message>
+        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>Seite %1 hat zu viele Zeilen für eine PNG-Datei; wählen Sie ein kürzeres Etikett oder eine geringere Auflösung</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ExtendedTicket</name>
     <message>
         <source>is not a file; give --ticket the path of a ticket</source>
@@ -329,10 +336,6 @@
 </context>
 <context>
     <name>dialog::FolderPrinter</name>
-    <message>
-        <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>kann nicht geschrieben werden (%1); wählen Sie einen anderen Ordner oder schaffen Sie Platz</translation>
-    </message>
     <message>
         <source>the settings of the job cannot be written down</source>
         <translation>die Einstellungen des Auftrags können nicht aufgeschrieben werden</translation>
@@ -502,6 +505,13 @@
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NewFile</name>
+    <message>
+        <source>cannot be written (%1); choose another folder or make room</source>
+        <translation>kann nicht geschrieben werden (%1); wählen Sie einen anderen Ordner oder schaffen Sie Platz</translation>
     </message>
 </context>
 <context>

@@ -297,6 +297,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotPictures</name>
+    <message>
+        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>la página %1 tiene demasiadas filas para un archivo PNG; elija una etiqueta más corta o una resolución menor</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ExtendedTicket</name>
     <message>
         <source>is not a file; give --ticket the path of a ticket</source>
@@ -329,10 +336,6 @@
 </context>
 <context>
     <name>dialog::FolderPrinter</name>
-    <message>
-        <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>no se puede escribir (%1); elija otra carpeta o libere espacio</translation>
-    </message>
     <message>
         <source>the settings of the job cannot be written down</source>
         <translation>no se pueden guardar los ajustes del trabajo</translation>
@@ -502,6 +505,13 @@
     <message>
         <source>Close this message</source>
         <translation>Cerrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NewFile</name>
+    <message>
+        <source>cannot be written (%1); choose another folder or make room</source>
+        <translation>no se puede escribir (%1); elija otra carpeta o libere espacio</translation>
     </message>
 </context>
 <context>

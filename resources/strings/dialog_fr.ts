@@ -297,6 +297,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotPictures</name>
+    <message>
+        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>la page %1 a trop de lignes pour un fichier PNG&#xa0;; choisissez une étiquette plus courte ou une résolution plus basse</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ExtendedTicket</name>
     <message>
         <source>is not a file; give --ticket the path of a ticket</source>
@@ -329,10 +336,6 @@
 </context>
 <context>
     <name>dialog::FolderPrinter</name>
-    <message>
-        <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>ne peut pas être écrit (%1)&#xa0;; choisissez un autre dossier ou libérez de la place</translation>
-    </message>
     <message>
         <source>the settings of the job cannot be written down</source>
         <translation>les réglages du travail ne peuvent pas être enregistrés</translation>
@@ -502,6 +505,13 @@
     <message>
         <source>Close this message</source>
         <translation>Fermer ce message</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NewFile</name>
+    <message>
+        <source>cannot be written (%1); choose another folder or make room</source>
+        <translation>ne peut pas être écrit (%1)&#xa0;; choisissez un autre dossier ou libérez de la place</translation>
     </message>
 </context>
 <context>

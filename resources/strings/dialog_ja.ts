@@ -297,6 +297,13 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotPictures</name>
+    <message>
+        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>%1 ページは行数が多すぎて PNG ファイルにできません。短いラベルか低い解像度を選んでください</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ExtendedTicket</name>
     <message>
         <source>is not a file; give --ticket the path of a ticket</source>
@@ -329,10 +336,6 @@
 </context>
 <context>
     <name>dialog::FolderPrinter</name>
-    <message>
-        <source>cannot be written (%1); choose another folder or make room</source>
-        <translation>書き込めません (%1)。別のフォルダーを選ぶか、空き容量を増やしてください</translation>
-    </message>
     <message>
         <source>the settings of the job cannot be written down</source>
         <translation>ジョブの設定を保存できません</translation>
@@ -501,6 +504,13 @@
     <message>
         <source>Close this message</source>
         <translation>このメッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::NewFile</name>
+    <message>
+        <source>cannot be written (%1); choose another folder or make room</source>
+        <translation>書き込めません (%1)。別のフォルダーを選ぶか、空き容量を増やしてください</translation>
     </message>
 </context>
 <context>

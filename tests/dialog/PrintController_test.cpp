@@ -53,7 +53,7 @@ TEST_F(PrintControllerTest, PrintsIntoTheFolderWithTheWishedChoices)
     controller->choosePrinter(Printer::folder(), {});
     ASSERT_EQ(ready.count(), 1);
     EXPECT_TRUE(controller->print(opened(pdfOfPages(2))));
-    ASSERT_EQ(printed.count(), 1);
+    ASSERT_TRUE(printed.wait(kPatience));
     EXPECT_THAT(printed.at(0).at(0).toString().toStdString(), HasSubstr("out/job-0001"));
     const auto settings =
         FolderPrinter::readSettings(folder.filePath(QStringLiteral("out/job-0001/settings.plist")));

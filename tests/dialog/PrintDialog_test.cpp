@@ -77,6 +77,16 @@ protected:
         find<QComboBox>(comboBox)->setCurrentIndex(index);
     }
 
+    /// Clicks on Print and waits for the end of the job.
+    void print()
+    {
+        QSignalSpy printed(controller.get(), &PrintController::printed);
+        QSignalSpy failed(controller.get(), &PrintController::jobFailed);
+        printButton()->click();
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return printed.count() + failed.count() > 0; }, kPatience));
+    }
+
     std::unique_ptr<PrintController> controller;
     std::unique_ptr<PrinterList> printers;
     std::unique_ptr<PrintDialog> window;
@@ -89,7 +99,7 @@ TEST_F(PrintDialogTest, WhatThePanelShowsIsWhatIsPrinted)
     slider->setFocus();
     QTest::keyClick(slider, Qt::Key_Right);
     QTest::keyClick(slider, Qt::Key_Right);
-    printButton()->click();
+    print();
     EXPECT_EQ(window->result(), QDialog::Accepted);
     EXPECT_EQ(printedSettings().choice(QStringLiteral("CvBrightness")), QStringLiteral("2"));
 }
@@ -101,7 +111,7 @@ TEST_F(PrintDialogTest, CopiesPagesSizeAndScaleGoWithTheJob)
     QTest::keyClicks(find<QLineEdit>("pages"), QStringLiteral("2-3"));
     pick("scaling", 1);
     pick("labelSize", 0);
-    printButton()->click();
+    print();
     const JobSettings settings = printedSettings();
     EXPECT_EQ(settings.copies(), 4);
     EXPECT_EQ(settings.pages().text(), QStringLiteral("2-3"));
@@ -118,7 +128,7 @@ TEST_F(PrintDialogTest, ASizeOfTheUsersOwnIsPrinted)
     EXPECT_TRUE(find<QDoubleSpinBox>("customWidth")->isVisible());
     find<QDoubleSpinBox>("customWidth")->setValue(40);
     find<QDoubleSpinBox>("customHeight")->setValue(30.5);
-    printButton()->click();
+    print();
     EXPECT_EQ(printedSettings().labelSize()->pageSizeChoice(), QStringLiteral("Custom.40x30.5mm"));
 }
 
@@ -173,7 +183,7 @@ TEST_F(PrintDialogTest, AFolderThatCannotBeWrittenLeavesTheWindowUsable)
 {
     openOnFolder();
     write(QStringLiteral("out"), "a file in the way");
-    printButton()->click();
+    print();
     EXPECT_TRUE(window->isVisible());
     EXPECT_THAT(message(), HasSubstr("out"));
     EXPECT_TRUE(printButton()->isEnabled());
@@ -194,7 +204,7 @@ TEST_F(PrintDialogTest, LastPrinterAndWindowSizeAreRemembered)
 {
     openOnFolder();
     window->resize(1010, 765);
-    printButton()->click();
+    print();
     EXPECT_EQ(Remembered().lastPrinter(), QStringLiteral("folder"));
     EXPECT_EQ(Remembered().windowSize(), QSize(1010, 765));
     open();
@@ -227,9 +237,7 @@ TEST_F(PrintDialogTest, OpensBeforeAnyPrinterIsKnownAndFillsTheListFromTheServer
     ASSERT_TRUE(ready.wait(kPatience));
     EXPECT_EQ(find<QComboBox>("printer")->count(), 3);
     EXPECT_EQ(controller->printer().name, QStringLiteral("Office"));
-    QSignalSpy printed(controller.get(), &PrintController::printed);
-    printButton()->click();
-    ASSERT_TRUE(printed.wait(kPatience));
+    print();
     EXPECT_EQ(window->result(), QDialog::Accepted);
     EXPECT_FALSE(cups.arrived(1).document.isEmpty());
 }
