@@ -62,11 +62,15 @@ void DotRenderer::cancel()
 void DotRenderer::clear()
 {
     cancel();
-    mPool.start([this] { mMaker.forget(); });
+    if (mRemembers) {
+        mRemembers = false;
+        mPool.start([this] { mMaker.forget(); });
+    }
 }
 
 void DotRenderer::start()
 {
+    mRemembers = true;
     mRunningRequest = *mNewest;
     mRunning = std::make_shared<CancelFlag>();
     mPercent = 0;

@@ -60,6 +60,8 @@ private:
     /// Of the page that is being made; null when there is none.
     std::shared_ptr<CancelFlag> mRunning;
     int mGivenUp = 0;
+    /// Whether the maker has worked since it was told to forget.
+    bool mRemembers = false;
     std::atomic<int> mPercent{0};
     QTimer mTelling;
     /// Last, so that its end waits for the worker while everything else is still there.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PageCanvas.h"
 
+#include "dialog/SheetPainting.h"
+
 #include <QEvent>
 #include <QPainter>
-#include <QPainterPath>
-#include <QPen>
 #include <QTimer>
 
 #include <cmath>
@@ -14,7 +14,6 @@ namespace dialog {
 namespace {
 
 constexpr double kEdge = 16;
-constexpr int kShadow = 9;
 
 /// How long the first page waits for a window that is shown but not painted, in milliseconds: one
 /// on another desktop may never be.
@@ -29,16 +28,6 @@ QPointF onPixels(const QPointF &point, double ratio)
 QRectF onPixels(const QRectF &rectangle, double ratio)
 {
     return {onPixels(rectangle.topLeft(), ratio), onPixels(rectangle.bottomRight(), ratio)};
-}
-
-void paintShadow(QPainter &painter, const QRectF &sheet)
-{
-    painter.setPen(Qt::NoPen);
-    for (int ring = kShadow; ring > 0; --ring) {
-        painter.setBrush(QColor(0, 0, 0, 4 + 2 * (kShadow - ring)));
-        const QRectF rectangle = sheet.translated(0, 2).adjusted(-ring, -ring, ring, ring);
-        painter.drawRoundedRect(rectangle, ring, ring);
-    }
 }
 
 } // namespace
@@ -57,13 +46,35 @@ QSize PageCanvas::sizeHint() const
     return {320, 420};
 }
 
-void PageCanvas::setRequest(const PageRequest &request)
+void PageCanvas::setRequest(const PageRequest &request, const std::optional<DotForm> &form)
 {
-    if (request.document != mPicture.request.document || request.page != mPicture.request.page) {
+    const auto isOfAnotherPage = [&request](const auto &picture) {
+        return request.document != picture.request.document || request.page != picture.request.page;
+    };
+    if (isOfAnotherPage(mPicture)) {
         mPicture = {};
     }
+    if (isOfAnotherPage(mDots)) {
+        mDots = {};
+    }
     mRequest = request;
+    mForm = form;
     ask();
+    update();
+}
+
+void PageCanvas::setPageWanted(bool wanted)
+{
+    if (wanted != mPageWanted) {
+        mPageWanted = wanted;
+        ask();
+        update();
+    }
+}
+
+void PageCanvas::setDots(const DotPicture &picture)
+{
+    mDots = picture;
     update();
 }
 
@@ -83,16 +94,19 @@ bool PageCanvas::isUpToDate() const
 // Nothing is rendered for a window that nobody sees.
 void PageCanvas::ask()
 {
-    if (!mRequest.document) {
+    if (!mRequest.document || !mPageWanted) {
         mAsked = {};
         mRenderer.cancel();
+    }
+    if (!mRequest.document || !mMayAsk || !isVisible()) {
         return;
     }
     const PageRequest request = wanted();
-    if (mMayAsk && isVisible() && request != mAsked) {
+    if (mPageWanted && request != mAsked) {
         mAsked = request;
         mRenderer.render(request);
     }
+    Q_EMIT laidOut();
 }
 
 void PageCanvas::beginAsking()
@@ -122,23 +136,51 @@ QRectF PageCanvas::sheetRectangle() const
     return rectangle.isEmpty() ? QRectF() : onPixels(rectangle, devicePixelRatioF());
 }
 
+double PageCanvas::pixelsPerPoint() const
+{
+    return sheetRectangle().width() / sheet().size.width();
+}
+
 QRectF PageCanvas::pageRectangle() const
 {
     const Sheet label = sheet();
     const QRectF rectangle = sheetRectangle();
-    if (mPicture.image.isNull() || rectangle.isEmpty()) {
+    const bool isThere = showsDots() ? mDots.dots != nullptr : !mPicture.image.isNull();
+    if (!isThere || rectangle.isEmpty()) {
         return {};
     }
-    const PagePlacement place = SheetLayout::place(mPicture.pageSize, label, mRequest.scaling);
-    const double factor = rectangle.width() / label.size.width();
+    const QSizeF size = showsDots() ? mDots.pageSize : mPicture.pageSize;
+    const PagePlacement place = SheetLayout::place(size, label, mRequest.scaling);
+    const double factor = pixelsPerPoint();
     return onPixels(
         QRectF(place.page.topLeft() * factor + rectangle.topLeft(), place.page.size() * factor),
         devicePixelRatioF());
 }
 
+QRectF PageCanvas::dotRectangle() const
+{
+    const QRectF rectangle = sheetRectangle();
+    if (!mForm || rectangle.isEmpty()) {
+        return {};
+    }
+    // In each direction by itself, so that rounding puts nothing outside of the label.
+    const QRectF label = mForm->inDots(QRectF(QPointF(), sheet().size));
+    const double across = rectangle.width() / label.width();
+    const double down = rectangle.height() / label.height();
+    return onPixels(QRectF(rectangle.x() - label.x() * across, rectangle.y() - label.y() * down,
+                           mForm->dots.width() * across, mForm->dots.height() * down),
+                    devicePixelRatioF());
+}
+
+QSize PageCanvas::dotPixels() const
+{
+    return (dotRectangle().size() * devicePixelRatioF()).toSize();
+}
+
 QString PageCanvas::message() const
 {
-    return mRequest.document ? mPicture.why : tr("No document");
+    const QString &why = showsDots() ? mDots.why : mPicture.why;
+    return mRequest.document ? why : tr("No document");
 }
 
 void PageCanvas::paintEvent(QPaintEvent *)
@@ -151,35 +193,32 @@ void PageCanvas::paintEvent(QPaintEvent *)
     }
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(rect(), palette().color(QPalette::Window).darker(112));
-    paintSheet(painter);
-    paintPage(painter);
-    paintReach(painter);
-    paintMessage(painter);
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
-    }
-}
-
-void PageCanvas::paintSheet(QPainter &painter) const
-{
+    paintGround(painter, *this);
     const QRectF rectangle = sheetRectangle();
     if (!rectangle.isEmpty()) {
-        paintShadow(painter, rectangle);
-        painter.fillRect(rectangle, Qt::white);
+        paintPaper(painter, rectangle);
     }
+    const QRectF page = pageRectangle();
+    if (!page.isEmpty()) {
+        painter.save();
+        painter.setClipRect(rectangle);
+        showsDots() ? paintDots(painter) : paintPage(painter);
+        painter.restore();
+        const QRectF reach = sheet().imageableArea();
+        const double factor = pixelsPerPoint();
+        paintBeyondReach(
+            painter, rectangle,
+            QRectF(reach.topLeft() * factor + rectangle.topLeft(), reach.size() * factor), page);
+    }
+    if (const QString text = message(); !text.isEmpty()) {
+        paintSentence(painter, rect().adjusted(24, 24, -24, -24), text, palette());
+    }
+    paintFocus(painter, *this, hasFocus());
 }
 
 void PageCanvas::paintPage(QPainter &painter) const
 {
     const QRectF page = pageRectangle();
-    if (page.isEmpty()) {
-        return;
-    }
-    painter.save();
-    painter.setClipRect(sheetRectangle());
     if (SheetLayout::place(mPicture.pageSize, sheet(), mRequest.scaling).turned) {
         painter.translate(page.bottomLeft());
         painter.rotate(-90);
@@ -187,51 +226,11 @@ void PageCanvas::paintPage(QPainter &painter) const
     } else {
         painter.drawImage(page, mPicture.image);
     }
-    painter.restore();
 }
 
-// The edges that the printer does not reach, when something of the page stands there.
-void PageCanvas::paintReach(QPainter &painter) const
+void PageCanvas::paintDots(QPainter &painter) const
 {
-    const QRectF rectangle = sheetRectangle();
-    const QRectF page = pageRectangle();
-    if (page.isEmpty()) {
-        return;
-    }
-    const Sheet label = sheet();
-    const double factor = rectangle.width() / label.size.width();
-    const QRectF reach = label.imageableArea();
-    const QRectF shown(reach.topLeft() * factor + rectangle.topLeft(), reach.size() * factor);
-    if (reach.isEmpty() || shown.adjusted(-1, -1, 1, 1).contains(page)) {
-        return;
-    }
-    QPainterPath edges;
-    edges.addRect(rectangle);
-    edges.addRect(shown);
-    painter.fillPath(edges, QColor(255, 255, 255, 150));
-    QPen pen(QColor(120, 120, 120), 1, Qt::DashLine);
-    pen.setCosmetic(true);
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(shown);
-}
-
-void PageCanvas::paintMessage(QPainter &painter) const
-{
-    const QString text = message();
-    if (text.isEmpty()) {
-        return;
-    }
-    const QRect room = rect().adjusted(24, 24, -24, -24);
-    // Text is not measured while there is no pen.
-    painter.setPen(palette().color(QPalette::Text));
-    constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
-    const QRectF place = painter.boundingRect(QRectF(room), kFlags, text).adjusted(-12, -8, 12, 8);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(palette().color(QPalette::Base));
-    painter.drawRoundedRect(place, 4, 4);
-    painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(QRectF(room), kFlags, text);
+    painter.drawImage(dotRectangle(), mDots.image);
 }
 
 void PageCanvas::resizeEvent(QResizeEvent *event)

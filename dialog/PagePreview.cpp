@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PagePreview.h"
 
+#include "dialog/DotBar.h"
+#include "dialog/DotCanvas.h"
+#include "dialog/DotRenderer.h"
 #include "dialog/PageCanvas.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -16,9 +20,26 @@
 
 namespace dialog {
 
+namespace {
+
+void describe(QWidget *widget, const QString &description)
+{
+    if (description != widget->accessibleDescription()) {
+        widget->setAccessibleDescription(description);
+        QAccessibleEvent changed(widget, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+} // namespace
+
 PagePreview::PagePreview(QWidget *parent)
     : QWidget(parent)
+    , mStack(new QStackedLayout)
     , mCanvas(new PageCanvas(this))
+    , mLarge(new DotCanvas(this))
+    , mBar(new DotBar(this))
+    , mDots(new DotRenderer(this))
     , mFoot(new QHBoxLayout)
     , mPrevious(new QToolButton(this))
     , mNumber(new QLabel(this))
@@ -27,11 +48,14 @@ PagePreview::PagePreview(QWidget *parent)
     setFocusProxy(mCanvas);
     connect(mCanvas, &PageCanvas::shown, this, [this] {
         setTexts();
-        Q_EMIT pageShown();
+        if (!showsDots()) {
+            Q_EMIT pageShown();
+        }
     });
     connect(mPrevious, &QToolButton::clicked, this, [this] { setCurrentPage(mPage - 1); });
     connect(mNext, &QToolButton::clicked, this, [this] { setCurrentPage(mPage + 1); });
     buildRow();
+    buildDots();
     refresh();
 }
 
@@ -58,7 +82,10 @@ void PagePreview::buildRow()
     mFoot->addStretch(1);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(mCanvas, 1);
+    mStack->addWidget(mCanvas);
+    mStack->addWidget(mLarge);
+    column->addLayout(mStack, 1);
+    column->addWidget(mBar);
     column->addLayout(mFoot);
 }
 
@@ -77,9 +104,14 @@ void PagePreview::setDocument(std::shared_ptr<const DocumentPages> document)
     }
 }
 
-void PagePreview::setSheet(const Sheet &sheet)
+void PagePreview::setSheet(const Sheet &sheet, const std::optional<DotForm> &form)
 {
     mSheet = sheet;
+    const bool hasDots = form && !form->dots.isEmpty() && !sheet.size.isEmpty();
+    mForm = hasDots ? form : std::nullopt;
+    if (!mForm) {
+        mZoom = kFitted;
+    }
     refresh();
 }
 
@@ -107,12 +139,19 @@ void PagePreview::setCurrentPage(int page)
 
 bool PagePreview::isUpToDate() const
 {
-    return mCanvas->isUpToDate();
+    return showsDots() ? mShownDots.request == wantedDots() : mCanvas->isUpToDate();
 }
 
 void PagePreview::refresh()
 {
-    mCanvas->setRequest({mDocument, mPage, mSheet, mScaling, {}});
+    if (mShownDots.request.document != mDocument || mShownDots.request.page != mPage) {
+        mShownDots = {};
+        mLarge->setDots({});
+    }
+    mCanvas->setPageWanted(!showsDots() || mStandIn);
+    mCanvas->setRequest({mDocument, mPage, mSheet, mScaling, {}}, mForm);
+    showCanvas();
+    refreshDots();
     mPrevious->setEnabled(mPage > 0);
     mNext->setEnabled(mPage + 1 < pageCount());
     setTexts();
@@ -128,15 +167,13 @@ void PagePreview::setTexts()
         button->setAccessibleName(text);
         button->setToolTip(text);
     }
-    mCanvas->setAccessibleName(tr("Preview of the document"));
     const QString message = mCanvas->message();
     const QString description = message.isEmpty() || number.isEmpty()
         ? number + message
         : tr("%1: %2", "page number, what is wrong with it").arg(number, message);
-    if (description != mCanvas->accessibleDescription()) {
-        mCanvas->setAccessibleDescription(description);
-        QAccessibleEvent changed(mCanvas, QAccessible::DescriptionChanged);
-        QAccessible::updateAccessibility(&changed);
+    for (QWidget *canvas : {static_cast<QWidget *>(mCanvas), static_cast<QWidget *>(mLarge)}) {
+        canvas->setAccessibleName(tr("Preview of the document"));
+        describe(canvas, message.isEmpty() ? withZoom(description) : description);
     }
 }
 
@@ -172,19 +209,25 @@ bool PagePreview::turnByKey(int key)
 void PagePreview::keyPressEvent(QKeyEvent *event)
 {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!plain || !turnByKey(event->key())) {
+    if (plain && event->key() == Qt::Key_Escape && mBar->showsProgress()) {
+        setDotsOn(false);
+    } else if (!plain || !turnByKey(event->key())) {
         QWidget::keyPressEvent(event);
     }
 }
 
-// One page for each notch; fine wheels and touch pads send parts of one.
+// One step for each notch; fine wheels and touch pads send parts of one.
 void PagePreview::wheelEvent(QWheelEvent *event)
 {
     constexpr int kNotch = 120;
     mWheelSteps += event->angleDelta().y();
-    const int pages = mWheelSteps / kNotch;
-    mWheelSteps -= pages * kNotch;
-    setCurrentPage(mPage - pages);
+    const int steps = mWheelSteps / kNotch;
+    mWheelSteps -= steps * kNotch;
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        stepZoom(steps, event->globalPosition());
+    } else if (!isLarge()) {
+        setCurrentPage(mPage - steps);
+    }
     event->accept();
 }
 

@@ -7,6 +7,7 @@
 #include "dialog/MessageBar.h"
 #include "dialog/PagePreview.h"
 #include "dialog/PanelTabs.h"
+#include "dialog/PpdRaster.h"
 #include "dialog/Remembered.h"
 #include "dialog/SummaryView.h"
 
@@ -231,8 +232,12 @@ void PrintDialog::showMarks()
 void PrintDialog::showSheet()
 {
     PrinterSetup *setup = mController.setup();
-    // While nobody knows the label, the page is shown by itself.
-    mPreview->setSheet(setup ? setup->sheet() : Sheet());
+    if (setup && setup->ppd()) {
+        mPreview->setSheet(setup->sheet(), dotFormOf(setup->ppd()->file()));
+    } else {
+        // While nobody knows the label, the page is shown by itself.
+        mPreview->setSheet(setup ? setup->sheet() : Sheet());
+    }
 }
 
 void PrintDialog::showClash()

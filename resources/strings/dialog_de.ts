@@ -297,6 +297,54 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotBar</name>
+    <message>
+        <source>Fit</source>
+        <comment>the whole label fits into the preview</comment>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Zoom: pixels of the screen for each printed dot</source>
+        <translation>Zoom: Bildschirmpixel je gedrucktem Punkt</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Show the black and the red dots</source>
+        <translation>Die schwarzen und die roten Punkte zeigen</translation>
+    </message>
+    <message>
+        <source>Show the black dots alone</source>
+        <translation>Nur die schwarzen Punkte zeigen</translation>
+    </message>
+    <message>
+        <source>Show the red dots alone</source>
+        <translation>Nur die roten Punkte zeigen</translation>
+    </message>
+    <message>
+        <source>The dots are being made</source>
+        <translation>Die Punkte werden berechnet</translation>
+    </message>
+    <message>
+        <source>Stop, and show the page without dots</source>
+        <translation>Anhalten und die Seite ohne Punkte zeigen</translation>
+    </message>
+    <message>
+        <source>Show dots</source>
+        <translation>Punkte zeigen</translation>
+    </message>
+    <message>
+        <source>Show the dots that will be printed</source>
+        <translation>Die Punkte zeigen, die gedruckt werden</translation>
+    </message>
+</context>
+<context>
     <name>dialog::DotPictures</name>
     <message>
         <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
@@ -543,6 +591,16 @@
         <source>%1: %2</source>
         <comment>page number, what is wrong with it</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, all of its dots</source>
+        <comment>page number</comment>
+        <translation>%1, alle Punkte</translation>
+    </message>
+    <message>
+        <source>%1, its dots %2:1</source>
+        <comment>page number, zoom</comment>
+        <translation>%1, Punkte %2:1</translation>
     </message>
 </context>
 <context>

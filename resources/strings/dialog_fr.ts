@@ -297,6 +297,54 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotBar</name>
+    <message>
+        <source>Fit</source>
+        <comment>the whole label fits into the preview</comment>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Zoom: pixels of the screen for each printed dot</source>
+        <translation>Zoom : pixels de l’écran pour chaque point imprimé</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Show the black and the red dots</source>
+        <translation>Afficher les points noirs et les points rouges</translation>
+    </message>
+    <message>
+        <source>Show the black dots alone</source>
+        <translation>Afficher seulement les points noirs</translation>
+    </message>
+    <message>
+        <source>Show the red dots alone</source>
+        <translation>Afficher seulement les points rouges</translation>
+    </message>
+    <message>
+        <source>The dots are being made</source>
+        <translation>Calcul des points en cours</translation>
+    </message>
+    <message>
+        <source>Stop, and show the page without dots</source>
+        <translation>Arrêter et afficher la page sans points</translation>
+    </message>
+    <message>
+        <source>Show dots</source>
+        <translation>Afficher les points</translation>
+    </message>
+    <message>
+        <source>Show the dots that will be printed</source>
+        <translation>Afficher les points qui seront imprimés</translation>
+    </message>
+</context>
+<context>
     <name>dialog::DotPictures</name>
     <message>
         <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
@@ -543,6 +591,16 @@
         <source>%1: %2</source>
         <comment>page number, what is wrong with it</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1, all of its dots</source>
+        <comment>page number</comment>
+        <translation>%1, tous ses points</translation>
+    </message>
+    <message>
+        <source>%1, its dots %2:1</source>
+        <comment>page number, zoom</comment>
+        <translation>%1, points à %2:1</translation>
     </message>
 </context>
 <context>

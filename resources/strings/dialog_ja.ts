@@ -297,6 +297,54 @@
     </message>
 </context>
 <context>
+    <name>dialog::DotBar</name>
+    <message>
+        <source>Fit</source>
+        <comment>the whole label fits into the preview</comment>
+        <translation>全体</translation>
+    </message>
+    <message>
+        <source>Zoom: pixels of the screen for each printed dot</source>
+        <translation>拡大率: 印刷ドット 1 個あたりの画面のピクセル数</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Show the black and the red dots</source>
+        <translation>黒と赤のドットを表示</translation>
+    </message>
+    <message>
+        <source>Show the black dots alone</source>
+        <translation>黒のドットだけを表示</translation>
+    </message>
+    <message>
+        <source>Show the red dots alone</source>
+        <translation>赤のドットだけを表示</translation>
+    </message>
+    <message>
+        <source>The dots are being made</source>
+        <translation>ドットを作成しています</translation>
+    </message>
+    <message>
+        <source>Stop, and show the page without dots</source>
+        <translation>中止して、ドットなしでページを表示</translation>
+    </message>
+    <message>
+        <source>Show dots</source>
+        <translation>ドットを表示</translation>
+    </message>
+    <message>
+        <source>Show the dots that will be printed</source>
+        <translation>印刷されるドットを表示</translation>
+    </message>
+</context>
+<context>
     <name>dialog::DotPictures</name>
     <message>
         <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
@@ -542,6 +590,16 @@
         <source>%1: %2</source>
         <comment>page number, what is wrong with it</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, all of its dots</source>
+        <comment>page number</comment>
+        <translation>%1、ドット全体</translation>
+    </message>
+    <message>
+        <source>%1, its dots %2:1</source>
+        <comment>page number, zoom</comment>
+        <translation>%1、ドット %2:1</translation>
     </message>
 </context>
 <context>
