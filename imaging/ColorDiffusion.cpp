@@ -26,8 +26,9 @@ void gatherPlane(const ColorPlaneLine &plane, std::size_t width)
     }
 }
 
-void gather(const ColorDiffusionLine &line)
+void gather(const ColorDiffusionLine &row)
 {
+    const ColorDiffusionLine line = row;
     gatherPlane(line.paper, line.width);
     gatherPlane(line.red, line.width);
     for (std::size_t x = 0; x < line.width; ++x) {
@@ -54,12 +55,12 @@ struct Choice
         , red(redDue)
     {
         const int black = kFull - paper - red;
-        takesPaper = paper >= black && paper >= red;
-        takesRed = red > black && !takesPaper;
+        takesPaper = (paper >= black) & (paper >= red);
+        takesRed = (red > black) & !takesPaper;
     }
 
-    int paperError() const { return takesPaper ? paper - kFull : paper; }
-    int redError() const { return takesRed ? red - kFull : red; }
+    int paperError() const { return without(paper, kFull, takesPaper); }
+    int redError() const { return without(red, kFull, takesRed); }
 
     int paper;
     int red;
@@ -87,23 +88,20 @@ Ahead carried(const ColorDiffusionLine &line, std::ptrdiff_t x, const Ahead &ahe
     return {partOf(choice.paperError(), weight), partOf(choice.redError(), weight)};
 }
 
-/// A block of every part in turns.
-ColorPartEnds carry(const ColorDiffusionLine &line)
+/// A pixel of every part in turns.
+ColorPartEnds carry(const ColorDiffusionLine &row)
 {
+    const ColorDiffusionLine line = row;
     const RowParts &parts = line.parts;
     ColorPartEnds ends;
-    for (std::size_t turn = 0; turn < parts.turns; ++turn) {
+    for (std::size_t turn = 0; turn < parts.turns * kBlock; ++turn) {
         for (std::size_t part = 0; part < kParts; ++part) {
-            const std::ptrdiff_t from = parts.block(part, turn);
-            if (parts.isOutside(from)) {
-                continue;
+            const std::ptrdiff_t x = parts.pixel(part, turn);
+            if (x >= -1 && x <= std::ptrdiff_t(line.width)) {
+                const Ahead ahead = carried(line, x, {ends.paper[part], ends.red[part]});
+                ends.paper[part] = std::int16_t(ahead.paper);
+                ends.red[part] = std::int16_t(ahead.red);
             }
-            Ahead ahead{ends.paper[part], ends.red[part]};
-            for (std::ptrdiff_t i = 0; i < std::ptrdiff_t(kBlock); ++i) {
-                ahead = carried(line, from + (parts.rightward ? i : 7 - i), ahead);
-            }
-            ends.paper[part] = std::int16_t(ahead.paper);
-            ends.red[part] = std::int16_t(ahead.red);
         }
     }
     return ends;
@@ -118,28 +116,36 @@ void leave(const ColorPlaneLine &plane, std::size_t x, std::ptrdiff_t step, int 
     plane.down[x] = std::int16_t(error - partOf(error, weights.ahead) - behind);
 }
 
-void distribute(const ColorDiffusionLine &line)
+/// The pixel's errors go to the row below.
+void leaveBoth(const ColorDiffusionLine &line, std::size_t x, const Choice &choice)
 {
+    if ((line.bars[x] & kPure) != 0) {
+        line.paper.down[x] = std::int16_t(startAt(line.paper, x));
+        line.red.down[x] = std::int16_t(startAt(line.red, x));
+        return;
+    }
+    const DiffusionWeights weights{line.ahead[x], line.behind[x]};
+    leave(line.paper, x, line.parts.step(), choice.paperError(), weights);
+    leave(line.red, x, line.parts.step(), choice.redError(), weights);
+}
+
+void distribute(const ColorDiffusionLine &row)
+{
+    const ColorDiffusionLine line = row;
     for (const ColorPlaneLine *plane : {&line.paper, &line.red}) {
         std::fill(plane->aside - 1, plane->aside + line.width + 1, std::int16_t(0));
     }
-    std::fill_n(line.blackInk, line.width / 8, std::uint8_t(0));
-    std::fill_n(line.redInk, line.width / 8, std::uint8_t(0));
-    const std::ptrdiff_t step = line.parts.step();
-    for (std::size_t x = 0; x < line.width; ++x) {
-        const Choice choice(line.paper.sums[x], line.red.sums[x]);
-        if (!choice.takesPaper) {
-            std::uint8_t *ink = choice.takesRed ? line.redInk : line.blackInk;
-            ink[x / 8] |= std::uint8_t(0x80U >> (x % 8));
+    for (std::size_t x = 0; x < line.width; x += 8) {
+        unsigned black = 0;
+        unsigned red = 0;
+        for (std::size_t i = 0; i < 8; ++i) {
+            const Choice choice(line.paper.sums[x + i], line.red.sums[x + i]);
+            black = black * 2 + unsigned(!choice.takesPaper & !choice.takesRed);
+            red = red * 2 + unsigned(choice.takesRed);
+            leaveBoth(line, x + i, choice);
         }
-        if ((line.bars[x] & kPure) != 0) {
-            line.paper.down[x] = std::int16_t(startAt(line.paper, x));
-            line.red.down[x] = std::int16_t(startAt(line.red, x));
-            continue;
-        }
-        const DiffusionWeights weights{line.ahead[x], line.behind[x]};
-        leave(line.paper, x, step, choice.paperError(), weights);
-        leave(line.red, x, step, choice.redError(), weights);
+        line.blackInk[x / 8] = std::uint8_t(black);
+        line.redInk[x / 8] = std::uint8_t(red);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #if defined(__x86_64__)
 
+#include <algorithm>
 #include <immintrin.h>
 
 // Kept apart from the rest because only these functions may use the wide registers.
@@ -12,6 +13,19 @@ namespace imaging {
 namespace {
 
 constexpr std::size_t kPixels = 32;
+
+/// How many pixels of a row are done: all, unless there are fewer than go at once.
+constexpr std::size_t wholeOf(std::size_t width)
+{
+    return width < kPixels ? 0 : width;
+}
+
+/// Where the next pixels begin that go at once. The last of a row go together with some that are
+/// done already.
+constexpr std::size_t next(std::size_t x, std::size_t width)
+{
+    return x + kPixels == width ? width : std::min(x + kPixels, width - kPixels);
+}
 
 WITH_AVX2 inline __m256i load(const std::uint8_t *from)
 {
@@ -188,11 +202,10 @@ WITH_AVX2 std::size_t toneGreyAvx2(const FixedPointMap &map, const std::uint8_t 
                                    std::size_t width, std::uint8_t *grey)
 {
     const Tones tones = tonesOf(map);
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         store(grey + x, toned(load(from + x), tones));
     }
-    return x;
+    return wholeOf(width);
 }
 
 WITH_AVX2 std::size_t greyOfRgbAvx2(const FixedPointMap &map, const std::uint8_t *rgb,
@@ -200,12 +213,11 @@ WITH_AVX2 std::size_t greyOfRgbAvx2(const FixedPointMap &map, const std::uint8_t
 {
     const Tones tones = tonesOf(map);
     const __m256i white = _mm256_set1_epi8(char(map(255)));
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         const Threes threes = threesOf(rgb + x * 3);
         store(grey + x, allWhite(threes) ? white : greyOf(tonedPixels(threes, tones)));
     }
-    return x;
+    return wholeOf(width);
 }
 
 WITH_AVX2 std::size_t separateAvx2(const FixedPointMap &map, const RedBorder &border,
@@ -214,8 +226,7 @@ WITH_AVX2 std::size_t separateAvx2(const FixedPointMap &map, const RedBorder &bo
 {
     const Tones tones = tonesOf(map);
     const __m256i white = _mm256_set1_epi8(char(map(255)));
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         const Threes threes = threesOf(rgb + x * 3);
         if (allWhite(threes)) {
             store(paperTo + x, white);
@@ -228,7 +239,7 @@ WITH_AVX2 std::size_t separateAvx2(const FixedPointMap &map, const RedBorder &bo
         store(paperTo + x, paper);
         store(redTo + x, moved(red, _mm256_sub_epi8(rest(paper), red), border));
     }
-    return x;
+    return wholeOf(width);
 }
 
 } // namespace imaging

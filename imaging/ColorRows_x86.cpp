@@ -3,12 +3,26 @@
 
 #if defined(__x86_64__)
 
+#include <algorithm>
 #include <emmintrin.h>
 
 namespace imaging {
 namespace {
 
 constexpr std::size_t kPixels = 16;
+
+/// How many pixels of a row are done: all, unless there are fewer than go at once.
+constexpr std::size_t wholeOf(std::size_t width)
+{
+    return width < kPixels ? 0 : width;
+}
+
+/// Where the next pixels begin that go at once. The last of a row go together with some that are
+/// done already.
+constexpr std::size_t next(std::size_t x, std::size_t width)
+{
+    return x + kPixels == width ? width : std::min(x + kPixels, width - kPixels);
+}
 
 inline __m128i load(const std::uint8_t *from)
 {
@@ -163,22 +177,20 @@ std::size_t toneGreySse2(const FixedPointMap &map, const std::uint8_t *from, std
                          std::uint8_t *grey)
 {
     const Tones tones(map);
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         store(grey + x, tones.of(load(from + x)));
     }
-    return x;
+    return wholeOf(width);
 }
 
 std::size_t greyOfRgbSse2(const FixedPointMap &map, const std::uint8_t *rgb, std::size_t width,
                           std::uint8_t *grey)
 {
     const Tones tones(map);
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         store(grey + x, greyOf(tonedPixels(rgb + x * 3, tones)));
     }
-    return x;
+    return wholeOf(width);
 }
 
 std::size_t separateSse2(const FixedPointMap &map, const RedBorder &redBorder,
@@ -187,8 +199,7 @@ std::size_t separateSse2(const FixedPointMap &map, const RedBorder &redBorder,
 {
     const Tones tones(map);
     const Border border(redBorder);
-    std::size_t x = 0;
-    for (; x + kPixels <= width; x += kPixels) {
+    for (std::size_t x = 0; x < wholeOf(width); x = next(x, width)) {
         const Rgb pixels = tonedPixels(rgb + x * 3, tones);
         const __m128i tint = _mm_and_si128(_mm_srli_epi16(rest(pixels.red), 3), _mm_set1_epi8(31));
         const __m128i excess = _mm_subs_epu8(pixels.red, _mm_max_epu8(pixels.green, pixels.blue));
@@ -198,7 +209,7 @@ std::size_t separateSse2(const FixedPointMap &map, const RedBorder &redBorder,
         store(paperTo + x, paper);
         store(redTo + x, border.moved(red, black));
     }
-    return x;
+    return wholeOf(width);
 }
 
 } // namespace imaging

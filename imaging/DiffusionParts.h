@@ -49,6 +49,13 @@ struct RowParts
         return begin(part) + std::ptrdiff_t((rightward ? turn : turns - 1 - turn) * kBlock);
     }
 
+    /// The part's pixel in a turn of `turns * kBlock`.
+    std::ptrdiff_t pixel(std::size_t part, std::size_t turn) const
+    {
+        return rightward ? begin(part) + std::ptrdiff_t(turn)
+                         : begin(part + 1) - 1 - std::ptrdiff_t(turn);
+    }
+
     /// Whether such a block is neither in the row nor next to it.
     bool isOutside(std::ptrdiff_t block) const
     {

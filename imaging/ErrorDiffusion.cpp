@@ -9,8 +9,12 @@
 namespace imaging {
 namespace {
 
-void gather(const DiffusionLine &line)
+// Each takes a copy of the line: what is written through pointers to bytes might otherwise be
+// thought to be a part of it.
+
+void gather(const DiffusionLine &row)
 {
+    const DiffusionLine line = row;
     for (std::size_t x = 0; x < line.width; ++x) {
         const int tone = line.tones[x];
         const int error = errorFromAbove(line.down[x], line.aside[x], tone);
@@ -25,54 +29,90 @@ void gather(const DiffusionLine &line)
 /// A white pixel's sum is at least 0, a black one's below; what remains is the error.
 int errorOf(int sum)
 {
-    return sum < 0 ? sum + kHalf : sum - kHalf;
+    return without(sum + kHalf, kFull, sum >= 0);
 }
 
-/// Takes the error over one pixel.
-int carried(const DiffusionLine &line, std::ptrdiff_t x, int ahead)
+/// A block of every part, a lane each.
+struct Lanes
 {
-    const int sum = line.sums[x] + ahead;
-    line.sums[x] = std::int16_t(sum);
-    return partOf(errorOf(sum), line.ahead[x]);
-}
+    std::int16_t sums[kBlock][kParts] = {};
+    std::int16_t weights[kBlock][kParts] = {};
+};
 
-/// A block of every part in turns.
-PartEnds carry(const DiffusionLine &line)
+/// Calls work(pixel, lane, place in the block) for the blocks of a turn, in the order of the row.
+template <typename Work> void forPixels(const RowParts &parts, std::size_t turn, Work work)
 {
-    const RowParts &parts = line.parts;
-    PartEnds ahead{};
-    for (std::size_t turn = 0; turn < parts.turns; ++turn) {
-        for (std::size_t part = 0; part < kParts; ++part) {
-            const std::ptrdiff_t from = parts.block(part, turn);
-            if (parts.isOutside(from)) {
-                continue;
-            }
-            int error = ahead[part];
-            for (std::ptrdiff_t i = 0; i < std::ptrdiff_t(kBlock); ++i) {
-                error = carried(line, from + (parts.rightward ? i : 7 - i), error);
-            }
-            ahead[part] = std::int16_t(error);
+    for (std::size_t part = 0; part < kParts; ++part) {
+        const std::ptrdiff_t from = parts.block(part, turn);
+        if (parts.isOutside(from)) {
+            continue;
         }
+        for (std::size_t i = 0; i < kBlock; ++i) {
+            work(from + std::ptrdiff_t(parts.rightward ? i : kBlock - 1 - i), part, i);
+        }
+    }
+}
+
+/// Takes the errors over all places, one after the other.
+void carryThrough(Lanes *lanes, PartEnds *ahead)
+{
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        for (std::size_t part = 0; part < kParts; ++part) {
+            const int sum = lanes->sums[i][part] + (*ahead)[part];
+            lanes->sums[i][part] = std::int16_t(sum);
+            (*ahead)[part] = std::int16_t(partOf(errorOf(sum), lanes->weights[i][part]));
+        }
+    }
+}
+
+PartEnds carry(const DiffusionLine &row)
+{
+    const DiffusionLine line = row;
+    PartEnds ahead{};
+    for (std::size_t turn = 0; turn < line.parts.turns; ++turn) {
+        Lanes lanes;
+        forPixels(line.parts, turn, [&](std::ptrdiff_t x, std::size_t part, std::size_t i) {
+            lanes.sums[i][part] = line.sums[x];
+            lanes.weights[i][part] = line.ahead[x];
+        });
+        carryThrough(&lanes, &ahead);
+        forPixels(line.parts, turn, [&](std::ptrdiff_t x, std::size_t part, std::size_t i) {
+            line.sums[x] = lanes.sums[i][part];
+        });
     }
     return ahead;
 }
 
-void distribute(const DiffusionLine &line)
+/// What the pixels [0, width) leave to the row below. `behind` is where each leaves what goes
+/// aside.
+void leave(const std::int16_t *sums, const std::uint8_t *aheads, const std::uint8_t *behinds,
+           std::size_t width, std::int16_t *down, std::int16_t *aside)
 {
-    std::fill(line.ink, line.ink + line.width / 8, std::uint8_t(0));
-    std::fill(line.aside - 1, line.aside + line.width + 1, std::int16_t(0));
+    for (std::size_t x = 0; x < width; ++x) {
+        const int error = errorOf(sums[x]);
+        const int behind = partOf(error, behinds[x]);
+        aside[x] = std::int16_t(behind);
+        down[x] = std::int16_t(error - partOf(error, aheads[x]) - behind);
+    }
+}
+
+void distribute(const DiffusionLine &row)
+{
+    const DiffusionLine line = row;
+    clearSides(line.aside, line.width);
+    leave(line.sums, line.ahead, line.behind, line.width, line.down,
+          line.aside - line.parts.step());
+    for (std::size_t x = 0; x < line.width; x += 8) {
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < 8; ++i) {
+            bits |= unsigned(line.sums[x + i] < 0) << (7 - i);
+        }
+        line.ink[x / 8] = std::uint8_t(bits);
+    }
     for (std::size_t x = 0; x < line.width; ++x) {
-        const int sum = line.sums[x];
-        line.ink[x / 8] |= std::uint8_t(sum < 0 ? 0x80U >> (x % 8) : 0U);
         if (isExtreme(line.tones[x])) {
             line.down[x] = std::int16_t(startOf(line.noise[x % kBlueNoiseSide]));
-            continue;
         }
-        const int error = errorOf(sum);
-        const int ahead = partOf(error, line.ahead[x]);
-        const int behind = partOf(error, line.behind[x]);
-        line.aside[std::ptrdiff_t(x) - line.parts.step()] = std::int16_t(behind);
-        line.down[x] = std::int16_t(error - ahead - behind);
     }
 }
 
