@@ -31,8 +31,7 @@ QStringList withSwitch(const QStringList &options)
 
 } // namespace
 
-QByteArray DialogPrint::printedByDialog(const QString &printer, const QString &document,
-                                        const QStringList &options, const QStringList &arguments)
+void DialogPrint::run(const QStringList &arguments) const
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -41,15 +40,51 @@ QByteArray DialogPrint::printedByDialog(const QString &printer, const QString &d
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), mFolder.path());
     program.setProcessEnvironment(environment);
     program.start(QStringLiteral(PROGRAM),
-                  QStringList{document, QStringLiteral("--no-dialog"), QStringLiteral("--printer"),
-                              printer, QStringLiteral("--plugin"),
+                  QStringList{QStringLiteral("--no-dialog"), QStringLiteral("--plugin"),
                               QFileInfo(QStringLiteral(BUNDLE_DIR)).path()}
-                      + withSwitch(options) + arguments);
+                      + arguments);
     if (!program.waitForFinished(kPatience) || program.exitStatus() != QProcess::NormalExit
         || program.exitCode() != 0) {
         fail(QString::fromUtf8(program.readAllStandardError()) + program.errorString());
     }
+}
+
+QByteArray DialogPrint::printedByDialog(const QString &printer, const QString &document,
+                                        const QStringList &options, const QStringList &arguments)
+{
+    run(QStringList{document, QStringLiteral("--printer"), printer} + withSwitch(options)
+        + arguments);
     return arrived(printer);
+}
+
+QImage DialogPrint::pictureInFolder(const QString &printer, const QString &document,
+                                    const QStringList &options, const QString &plate)
+{
+    const QTemporaryDir folder;
+    run(QStringList{document, QStringLiteral("--ppd"), ppdOf(printer), QStringLiteral("--output"),
+                    folder.path()}
+        + withSwitch(options));
+    const QImage picture(folder.filePath(QStringLiteral("job-0001/") + plate));
+    if (picture.isNull()) {
+        fail(plate + QStringLiteral(" is not in the folder"));
+    }
+    return picture;
+}
+
+std::size_t DialogPrint::differencesFrom(const QImage &picture, const Dots &dots)
+{
+    const std::size_t rowBytes = std::size_t(picture.width() + 7) / 8;
+    if (dots.size() != rowBytes * std::size_t(picture.height())) {
+        fail(QStringLiteral("the picture has another size than the label"));
+    }
+    std::size_t count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const bool isBlack = picture.pixel(x, y) == 0xff000000U;
+            count += isBlack != isInk(dots, rowBytes, std::size_t(x), std::size_t(y)) ? 1 : 0;
+        }
+    }
+    return count;
 }
 
 PrintedJob DialogPrint::dialogJob(const QString &printer, const QString &document,

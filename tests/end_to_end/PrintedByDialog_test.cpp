@@ -124,6 +124,18 @@ TEST_F(PrintedByDialog, ALabelSizeOfOnesOwnIsPrintedAsShown)
     expectPreviews(print(pdf, own), {expected});
 }
 
+TEST_F(PrintedByDialog, AFolderHasAPictureOfTheDotsThatAPrinterGets)
+{
+    const QString jpeg = LabelDocuments().writeJpeg(mFolder.path());
+    const PrintedJob got = print(jpeg, kLabel);
+    const QImage picture =
+        pictureInFolder(kPrinter, jpeg, kLabel, QStringLiteral("page-0001-black.png"));
+    ASSERT_EQ(picture.size(), LabelDocuments().look().dots);
+    EXPECT_EQ(picture.depth(), 1);
+    ASSERT_EQ(got.labels.size(), 1U);
+    EXPECT_EQ(differencesFrom(picture, got.labels[0].dotsOf(std::size_t(picture.height()))), 0U);
+}
+
 TEST_F(PrintedByDialog, AWideDocumentIsTurnedAsShown)
 {
     const LabelDocuments documents(LabelLook{.dots = {812, 406}, .squareModule = 2});

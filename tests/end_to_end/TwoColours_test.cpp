@@ -184,6 +184,17 @@ TEST_F(TwoColours, TheDialogPrintsTheTwoColoursOfItsPreview)
     }
 }
 
+TEST_F(TwoColours, AFolderHasAPictureOfEachColourThatAPrinterGets)
+{
+    const QStringList options = optionsOf(red("ErrorDiffusion", 5));
+    const Planes planes = planesOf(printedByDialog(kPrinter, mDocument, options));
+    const auto picture = [&](const char *plate) {
+        return pictureInFolder(kPrinter, mDocument, options, QLatin1String(plate));
+    };
+    EXPECT_EQ(differencesFrom(picture("page-0001-black.png"), planes.black), 0U);
+    EXPECT_EQ(differencesFrom(picture("page-0001-red.png"), planes.red), 0U);
+}
+
 TEST_F(TwoColours, ADotIsBlackOrRedAndPureRedIsRed)
 {
     for (const char *method : {"Binary", "Dither", "ErrorDiffusion"}) {
