@@ -280,10 +280,12 @@ TEST_F(RasterJobs, CancelledWhileRenderingLeavesNoJob)
 {
     choose(graphicsPpd(filter::Colours::Black, keepingPpd()));
     QSignalSpy failed(controller.get(), &PrintController::jobFailed);
+    QSignalSpy progressed(controller.get(), &PrintController::progressed);
     QObject::connect(controller.get(), &PrintController::progressed, controller.get(),
                      &PrintController::cancelJob);
-    ASSERT_TRUE(controller->print(opened(pdfOfPages(500, QSizeF(162, 90)))));
+    ASSERT_TRUE(controller->print(opened(pdfOfPages(1500, QSizeF(162, 90)))));
     const Failure why = failure(failed);
+    EXPECT_LT(progressed.count(), 1500) << "the other pages are not rendered";
     EXPECT_EQ(why.kind, FailureKind::Cancelled);
     EXPECT_THAT(why.why.toStdString(), HasSubstr("stopped at your request"));
     EXPECT_EQ(cups.jobCount(), 0);
