@@ -31,8 +31,13 @@ std::optional<DotPicture> DotMaker::make(const DotRequest &request, const GoOn &
     DotPicture picture;
     picture.request = request;
     picture.pageSize = request.document->pageSize(request.page);
+    const SheetPixels pixels(request.document, request.page, request.sheet, request.scaling,
+                             request.form);
+    if (pixels.isTooLarge()) {
+        return picture;
+    }
     if (!mDots || !request.hasDotsOf(mMade)) {
-        std::optional<Result<PageDots>> dots = dotsOf(request, goOn);
+        std::optional<Result<PageDots>> dots = dotsOf(request, pixels, goOn);
         if (!dots) {
             return {};
         }
@@ -50,14 +55,13 @@ std::optional<DotPicture> DotMaker::make(const DotRequest &request, const GoOn &
     return picture;
 }
 
-std::optional<Result<PageDots>> DotMaker::dotsOf(const DotRequest &request, const GoOn &goOn)
+std::optional<Result<PageDots>> DotMaker::dotsOf(const DotRequest &request,
+                                                 const SheetPixels &pixels, const GoOn &goOn)
 {
     if (!request.hasRenderingOf(mRendered)) {
         forget();
         mRendered = request;
     }
-    const SheetPixels pixels(request.document, request.page, request.sheet, request.scaling,
-                             request.form);
     PageDotsBuilder dots(request.form);
     for (int i = 0; i < pixels.bands(); ++i) {
         if (!goOn(100 * i / pixels.bands())) {

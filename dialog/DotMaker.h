@@ -48,7 +48,8 @@ struct DotPicture
     DotRequest request;
     /// In points; empty when the page is damaged.
     QSizeF pageSize;
-    /// None when `why` says what is wrong with the page.
+    /// None when `why` says what is wrong with the page, or when it has too many dots for anybody
+    /// to make them here.
     std::shared_ptr<const PageDots> dots;
     /// All dots, averaged.
     QImage image;
@@ -80,7 +81,8 @@ public:
     void forget();
 
 private:
-    std::optional<Result<PageDots>> dotsOf(const DotRequest &request, const GoOn &goOn);
+    std::optional<Result<PageDots>> dotsOf(const DotRequest &request, const SheetPixels &pixels,
+                                           const GoOn &goOn);
 
     std::size_t mMostBytes;
     BandSource mSource;

@@ -48,7 +48,7 @@ PagePreview::PagePreview(QWidget *parent)
     setFocusProxy(mCanvas);
     connect(mCanvas, &PageCanvas::shown, this, [this] {
         setTexts();
-        if (!showsDots()) {
+        if (isUpToDate()) {
             Q_EMIT pageShown();
         }
     });
@@ -139,7 +139,10 @@ void PagePreview::setCurrentPage(int page)
 
 bool PagePreview::isUpToDate() const
 {
-    return showsDots() ? mShownDots.request == wantedDots() : mCanvas->isUpToDate();
+    if (!showsDots()) {
+        return mCanvas->isUpToDate();
+    }
+    return mShownDots.request == wantedDots() && (!mStandIn || mCanvas->isUpToDate());
 }
 
 void PagePreview::refresh()

@@ -79,6 +79,7 @@ private:
     // The dots; in PagePreview_Dots.cpp.
     void buildDots();
     bool showsDots() const;
+    bool lacksDots() const;
     bool isLarge() const;
     DotRequest wantedDots() const;
     void refreshDots();
@@ -109,7 +110,7 @@ private:
     Plates mPlates = Plates::Both;
     /// Not while the user has stopped them.
     bool mDotsOn = true;
-    /// The page itself is shown until its first dots are there, because that takes long.
+    /// The page itself is shown in place of dots: they take long, or there cannot be any.
     bool mStandIn = false;
     /// The request that was passed on last, and the dots that are shown.
     DotRequest mAskedDots;

@@ -41,10 +41,16 @@ bool PagePreview::showsDots() const
     return mDocument && mForm && mDotsOn;
 }
 
-/// The sentence about a damaged page stands on the whole label.
+/// It is known that this page has none, because it is damaged or has too many.
+bool PagePreview::lacksDots() const
+{
+    return mShownDots.request.document && !mShownDots.dots;
+}
+
+/// Whatever stands in place of dots stands on the whole label.
 bool PagePreview::isLarge() const
 {
-    return showsDots() && mZoom != kFitted && mShownDots.why.isEmpty();
+    return showsDots() && mZoom != kFitted && !lacksDots();
 }
 
 DotRequest PagePreview::wantedDots() const
@@ -103,14 +109,18 @@ void PagePreview::askForDots()
 void PagePreview::dotsRendered(const DotPicture &picture)
 {
     mShownDots = picture;
-    mStandIn = false;
+    mStandIn = lacksDots() && picture.why.isEmpty();
     mCanvas->setDots(picture);
-    mCanvas->setPageWanted(false);
+    mCanvas->setPageWanted(mStandIn);
     mLarge->setDots(picture);
     showCanvas();
+    // Another canvas wants another picture.
+    askForDots();
     setTexts();
-    if (isUpToDate()) {
+    if (picture.request == wantedDots()) {
         mBar->setProgress({});
+    }
+    if (isUpToDate()) {
         Q_EMIT pageShown();
     }
 }
@@ -218,7 +228,7 @@ void PagePreview::stepZoom(int steps, const QPointF &global)
 /// The description of a page, with how its dots are shown.
 QString PagePreview::withZoom(const QString &description) const
 {
-    if (!showsDots()) {
+    if (!showsDots() || lacksDots()) {
         return description;
     }
     return mZoom == kFitted

@@ -133,6 +133,23 @@ TEST_F(DotPreview, PrinterWithoutDotsShowsThePageAndNoControls)
     EXPECT_EQ(description(fitted()), QStringLiteral("Page 1 of 1"));
 }
 
+TEST_F(DotPreview, PageWithMoreDotsThanCanBeMadeIsShownAsItIs)
+{
+    form = dotForm({62, 3000}, {2400, 2400});
+    open(opened(pdfOfPages(1, {88, 4000})));
+    EXPECT_EQ(qRed(screen(fitted()).pixel(fitted().rect().center())), greyOfPage(0));
+    EXPECT_EQ(fitted().message(), QString());
+    EXPECT_EQ(description(fitted()), QStringLiteral("Page 1 of 1"));
+    preview.setZoom(4);
+    waitForPage();
+    EXPECT_TRUE(fitted().isVisible());
+    EXPECT_EQ(bands.asked, 0);
+    form = dotForm({31, 50});
+    preview.setSheet(sheetOf(form), form);
+    waitForPage();
+    EXPECT_EQ(description(large()), QStringLiteral("Page 1 of 1, its dots 4:1"));
+}
+
 TEST_F(DotPreview, WithoutADocumentTheControlsWait)
 {
     preview.setSheet(sheetOf(form), form);
