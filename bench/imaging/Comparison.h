@@ -14,6 +14,9 @@ double median(std::vector<double> values);
 void printComparison(const TestPage &page, bool rgb, bool twoColors, int rounds,
                      const std::string &folder);
 
+/// This library's times on each of processorPaths(); all give the same dots.
+void printPaths(const TestPage &page, int rounds, const std::string &folder);
+
 /// Time for a pixel and memory of all contestants by the length of the page.
 void printGrowth(std::size_t width, const std::vector<int> &millimetres, int rounds,
                  const std::string &folder);

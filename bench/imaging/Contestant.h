@@ -49,8 +49,9 @@ struct PageFile
 PageFile pageFile(const TestPage &page, bool rgb, const std::string &folder,
                   const std::string &name);
 
-/// This library, by each method and as the settings say.
-std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings);
+/// This library, by each method and as the settings say, on one of processorPaths().
+std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings,
+                                       imaging::ProcessorPath path = imaging::fastestPath());
 
 /// The peers that are installed. They get the page toned already, which saves them a step.
 std::vector<Contestant> magickContestants(const PageFile &toned, bool twoColors);

@@ -11,7 +11,7 @@ constexpr const char *kMethods[] = {"threshold", "dither", "diffusion"};
 
 /// The page in one go, the object made anew as for each page that is printed.
 std::optional<Run> prepare(const TestPage &page, const imaging::PageSettings &settings, bool rgb,
-                           DotPage *dots)
+                           imaging::ProcessorPath path, DotPage *dots)
 {
     const std::size_t rowBytes = (page.width + 7) / 8;
     std::vector<std::uint8_t> black(rowBytes * page.height);
@@ -19,7 +19,8 @@ std::optional<Run> prepare(const TestPage &page, const imaging::PageSettings &se
     const bool twoColors = settings.colorMode == imaging::ColorMode::BlackRed;
     const double start = processorTime();
     imaging::PagePreparation preparation(
-        settings, page.width, rgb ? imaging::InputFormat::Rgb24 : imaging::InputFormat::Gray8);
+        settings, page.width, rgb ? imaging::InputFormat::Rgb24 : imaging::InputFormat::Gray8,
+        path);
     const bool done = preparation.rows(rgb ? page.rgb : page.grey, black,
                                        twoColors ? std::span(red) : std::span<std::uint8_t>());
     const double took = processorTime() - start;
@@ -44,7 +45,8 @@ double processorTime()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings)
+std::vector<Contestant> ourContestants(const PageFile &page, const imaging::PageSettings &settings,
+                                       imaging::ProcessorPath path)
 {
     const bool twoColors = settings.colorMode == imaging::ColorMode::BlackRed;
     std::vector<Contestant> contestants;
@@ -52,11 +54,12 @@ std::vector<Contestant> ourContestants(const PageFile &page, const imaging::Page
         imaging::PageSettings one = settings;
         one.method = imaging::HalftoneMethod(method);
         const std::string name = kMethods[method];
-        contestants.push_back(
-            {name, "label-print",
-             [page, one](DotPage *dots) { return prepare(page.page, one, page.rgb, dots); },
-             PREPARE_PAGE " " + name + (twoColors ? "3" : "") + " '" + page.path + "' '"
-                 + page.folder + "/ours.pbm'"});
+        contestants.push_back({name, "label-print",
+                               [page, one, path](DotPage *dots) {
+                                   return prepare(page.page, one, page.rgb, path, dots);
+                               },
+                               PREPARE_PAGE " " + name + (twoColors ? "3" : "") + " '" + page.path
+                                   + "' '" + page.folder + "/ours.pbm'"});
     }
     return contestants;
 }

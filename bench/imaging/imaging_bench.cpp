@@ -43,6 +43,7 @@ int main(int argc, char **argv)
         printComparison(page, false, false, rounds, folder);
         printComparison(page, true, false, rounds, folder);
         printComparison(page, true, true, rounds, folder);
+        printPaths(page, rounds, folder);
     }
     printGrowth(kWidth, {10, 100, 1000, 3000}, std::min(rounds, 3), folder);
     printLoad("at the end");
