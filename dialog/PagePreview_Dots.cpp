@@ -151,14 +151,10 @@ void PagePreview::showCanvas()
     if (canvas == former) {
         return;
     }
-    const bool hadFocus = former->hasFocus();
     // At once, so that a place on it means something.
     canvas->setGeometry(former->geometry());
     mStack->setCurrentWidget(canvas);
     setFocusProxy(canvas);
-    if (hadFocus) {
-        canvas->setFocus();
-    }
 }
 
 void PagePreview::setPlates(Plates plates)
