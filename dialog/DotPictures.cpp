@@ -4,6 +4,7 @@
 #include "dialog/NewFile.h"
 #include "dialog/PageDots.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QImage>
 #include <QImageWriter>
@@ -42,12 +43,19 @@ QImage pictureOf(const PageDots &dots, const std::vector<std::uint8_t> &plate)
 
 std::optional<Failure> writePicture(const QImage &picture, const QString &path)
 {
+    // In memory first: Qt's PNG code leaks when it cannot write.
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    if (!QImageWriter(&png, "png").write(picture)) {
+        return Failure{FailureKind::Document, path,
+                       DocumentPages::tr("there is not enough memory to show the page")};
+    }
     NewFile file(path);
     if (auto failure = file.open()) {
         return failure;
     }
-    if (!QImageWriter(&file.device(), "png").write(picture)) {
-        return file.failure();
+    if (auto failure = file.write(png.data().constData(), png.size())) {
+        return failure;
     }
     return file.finish();
 }

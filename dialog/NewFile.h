@@ -26,11 +26,9 @@ public:
     /// Brings all of it onto the disk.
     std::optional<Failure> finish();
 
-    /// For those who write by themselves; then failure() says what stood in the way.
-    QFile &device() { return mFile; }
+private:
     Failure failure() const;
 
-private:
     QFile mFile;
 };
 
