@@ -201,6 +201,7 @@ JobSettings Application::wishedJob() const
     JobSettings job;
     job.setCopies(mLine.copies.value_or(1));
     job.setPages(mLine.pages.value_or(PageRanges()));
+    job.setScaling(mLine.scaling.value_or(Scaling::Fit));
     return job;
 }
 
@@ -243,7 +244,7 @@ ExitCode Application::printAtOnce()
     PrintController controller(mServer, mPlugIns, folder(), PanelSet::Views::None);
     controller.setWishes(mLine.choices);
     controller.setTicket(mTicket);
-    return BatchPrint(controller).run(printer.value(), job, mDocument);
+    return BatchPrint(controller).run(printer.value(), job, mDocument, mLine.strict);
 }
 
 ExitCode Application::showDialog()
@@ -254,6 +255,7 @@ ExitCode Application::showDialog()
     PrinterList printers(mServer);
     DialogRun run(controller, printers);
     PrintDialog &window = run.window();
+    window.setStrict(mLine.strict);
     window.setJob(wishedJob());
     window.setDocument(mDocument);
     window.wishPrinter(wishedPrinter());

@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/BatchPrint.h"
 
+#include "dialog/BarcodeGuard.h"
+#include "dialog/CodeWarning.h"
+#include "dialog/DotPlacement.h"
+#include "dialog/PrintedPages.h"
 #include "dialog/Terminal.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
+
+#include <algorithm>
+#include <iterator>
 
 namespace dialog {
 
@@ -33,8 +40,58 @@ void BatchPrint::fail(const Failure &failure)
     mFailure = failure;
 }
 
+void BatchPrint::checkScaling(const std::shared_ptr<const DocumentPages> &document)
+{
+    PrinterSetup &setup = *mController.setup();
+    if (setup.settings().scaling() != Scaling::WholeDots) {
+        return;
+    }
+    const std::optional<PrintedPage> printed = printedPageOf(setup, document);
+    if (!printed || !printed->mayHaveWholeDots) {
+        fail({FailureKind::Settings, QStringLiteral("--scaling whole-dots"),
+              document->pixelSize(0).isEmpty()
+                  ? tr("the document has no pixels of its own; choose fit or actual")
+                  : tr("the printer's dots are not known; choose fit or actual")});
+    } else if (placeOnDots(*document, 0, printed->sheet, Scaling::WholeDots, printed->form)
+                   .dotsOfPixel.isEmpty()) {
+        complain({FailureKind::Settings, QStringLiteral("--scaling whole-dots"),
+                  tr("the picture has more pixels than the label has dots; it is fitted to the "
+                     "label")});
+    }
+}
+
+void BatchPrint::checkCodes(const std::shared_ptr<const DocumentPages> &document, bool strict)
+{
+    PrinterSetup &setup = *mController.setup();
+    std::optional<PrintedPage> printed = printedPageOf(setup, document);
+    if (!printed) {
+        return;
+    }
+    PageGuard guard;
+    for (const int page : pagesFrom(setup.settings().pages(), document->pageCount(), 0)) {
+        printed->page = page;
+        const Result<std::vector<LostCode>> lost = guard.lostCodes(*printed);
+        std::vector<Failure> failures;
+        if (lost) {
+            std::transform(lost.value().begin(), lost.value().end(), std::back_inserter(failures),
+                           CodeWarning::failureOf);
+        } else if (lost.failure().kind == FailureKind::Barcode) {
+            failures.push_back(lost.failure());
+        }
+        for (const Failure &failure : failures) {
+            complain(failure);
+            if (strict && !mFailure) {
+                mFailure = failure;
+            }
+        }
+        if (!lost && lost.failure().kind == FailureKind::Barcode) {
+            return;
+        }
+    }
+}
+
 ExitCode BatchPrint::run(const Printer &printer, const JobSettings &job,
-                         const std::shared_ptr<const DocumentPages> &document)
+                         const std::shared_ptr<const DocumentPages> &document, bool strict)
 {
     QEventLoop loop;
     connect(&mController, &PrintController::setupFailed, &loop, &QEventLoop::quit,
@@ -44,6 +101,10 @@ ExitCode BatchPrint::run(const Printer &printer, const JobSettings &job,
     connect(&mController, &PrintController::printed, &loop, &QEventLoop::quit,
             Qt::QueuedConnection);
     connect(&mController, &PrintController::setupReady, &loop, [&] {
+        checkScaling(document);
+        if (!mFailure) {
+            checkCodes(document, strict);
+        }
         if (mFailure) {
             QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
         } else {

@@ -15,12 +15,16 @@ public:
     explicit BatchPrint(PrintController &controller);
 
     /// Runs the application's event loop until the job is handed over or has failed.
+    /// A code of the document that nobody would read is a warning; in `strict` runs it stands in
+    /// the way of the job.
     ExitCode run(const Printer &printer, const JobSettings &job,
-                 const std::shared_ptr<const DocumentPages> &document);
+                 const std::shared_ptr<const DocumentPages> &document, bool strict = false);
 
 private:
     void complained(const Failure &failure);
     void fail(const Failure &failure);
+    void checkScaling(const std::shared_ptr<const DocumentPages> &document);
+    void checkCodes(const std::shared_ptr<const DocumentPages> &document, bool strict);
 
     PrintController &mController;
     /// The first thing that stands in the way of the job.

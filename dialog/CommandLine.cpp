@@ -56,11 +56,17 @@ void CommandLineReader::addOptions(QCommandLineParser &parser)
          tr("option=choice")},
         {QStringLiteral("copies"), tr("Print <number> copies."), tr("number")},
         {QStringLiteral("pages"), tr("Print these pages only, for example 1-3,5."), tr("pages")},
+        {QStringLiteral("scaling"),
+         tr("How a page gets onto the label: fit, actual (its own size) or whole-dots (each pixel "
+            "of a picture so many whole dots)."),
+         tr("way")},
         {QStringLiteral("plugin"), tr("Look for panels in <folder> first."), tr("folder")},
         {QStringLiteral("ticket"),
          tr("Start with the label, the colours and what else the print ticket in <file> holds."),
          tr("file")},
         {QStringLiteral("no-dialog"), tr("Print at once, without showing the dialog.")},
+        {QStringLiteral("strict"),
+         tr("Print nothing while a barcode of the document would not be readable.")},
         {QStringLiteral("list-printers"), tr("List the printers and stop.")},
         {QStringLiteral("screenshot"), tr("Save a picture of the dialog in <file> and stop."),
          tr("file")},
@@ -78,7 +84,8 @@ QString CommandLineReader::exitCodesText()
               "  2  the command line cannot be used\n"
               "  3  the document cannot be read\n"
               "  4  the printer, its PPD or a setting for it cannot be used\n"
-              "  5  the job could not be handed over\n");
+              "  5  the job could not be handed over\n"
+              "  6  a barcode would not be readable (--strict)\n");
 }
 
 std::variant<CommandLine, QString, Failure> CommandLineReader::read(const QStringList &arguments)
@@ -117,6 +124,7 @@ Result<CommandLine> CommandLineReader::take(const QCommandLineParser &parser)
     }
     line.document = documents.value(0);
     line.noDialog = parser.isSet(QStringLiteral("no-dialog"));
+    line.strict = parser.isSet(QStringLiteral("strict"));
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
 
     const std::pair<const char *, QString CommandLine::*> texts[] = {
@@ -156,6 +164,14 @@ std::optional<Failure> CommandLineReader::takeJob(const QCommandLineParser &pars
             return usage(QStringLiteral("--pages ") + text, failure->why);
         }
         line.pages = job.pages();
+    }
+    if (parser.isSet(QStringLiteral("scaling"))) {
+        const QString text = parser.value(QStringLiteral("scaling"));
+        line.scaling = JobSettings::scalingCalled(text);
+        if (!line.scaling) {
+            return usage(QStringLiteral("--scaling ") + text,
+                         tr("choose fit, actual or whole-dots"));
+        }
     }
     for (const QString &text : parser.values(QStringLiteral("o"))) {
         const qsizetype equals = text.indexOf(u'=');

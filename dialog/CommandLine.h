@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/Failure.h"
+#include "dialog/JobSettings.h"
 #include "dialog/OptionChoice.h"
 #include "dialog/PageRanges.h"
 
@@ -43,7 +44,10 @@ struct CommandLine
     OptionChoices choices;
     std::optional<int> copies;
     std::optional<PageRanges> pages;
+    std::optional<Scaling> scaling;
     bool noDialog = false;
+    /// Nothing is printed when a barcode would not be readable.
+    bool strict = false;
     bool listPrinters = false;
 };
 

@@ -123,6 +123,11 @@ QSizeF DocumentPages::pageSize(int page) const
     return page >= 0 && page < pageCount() ? mPages->pageSize(page) : QSizeF(0, 0);
 }
 
+QSize DocumentPages::pixelSize(int page) const
+{
+    return page >= 0 && page < pageCount() ? mPages->pixelSize(page) : QSize();
+}
+
 Failure DocumentPages::damagedPage(int page) const
 {
     return documentFailure(mPath, tr("page %1 is damaged and cannot be shown").arg(page + 1));

@@ -67,6 +67,10 @@ public:
     /// is damaged.
     QSizeF pageSize(int page) const;
 
+    /// The pixels of page `page` of a picture, upright; empty for a document without pixels of its
+    /// own (PDF, SVG), and where there is no such page.
+    QSize pixelSize(int page) const;
+
     /// Page `page`, counted from 0, on white, stretched to `pixels`.
     Result<QImage> render(int page, const QSize &pixels) const;
 

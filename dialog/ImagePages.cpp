@@ -144,6 +144,11 @@ QImage ImagePages::smaller(const QImage &image, const QSize &size) const
     return mSmaller;
 }
 
+QSize ImagePages::pixelSize(int page) const
+{
+    return decoded(page).image.size();
+}
+
 bool ImagePages::paint(int page, QPainter &painter, const QRectF &target, const QRectF &) const
 {
     QImage image = decoded(page).image;
@@ -155,7 +160,14 @@ bool ImagePages::paint(int page, QPainter &painter, const QRectF &target, const 
     if (painter.paintEngine()->type() == QPaintEngine::Raster && wished.width() < image.width()) {
         image = smaller(image, wished);
     }
+    // Pixels that become whole numbers of pixels keep their edges: the bars of a code stay as wide
+    // as they are.
+    const bool isMultiple = !image.isNull() && wished.width() % image.width() == 0
+        && wished.height() % image.height() == 0 && QSizeF(wished) == target.size();
+    const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth && !isMultiple);
     painter.drawImage(target, image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
     return true;
 }
 

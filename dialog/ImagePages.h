@@ -35,6 +35,7 @@ public:
 
     int pageCount() const override { return mPageCount; }
     QSizeF pageSize(int page) const override;
+    QSize pixelSize(int page) const override;
     bool paint(int page, QPainter &painter, const QRectF &target,
                const QRectF &part) const override;
 

@@ -45,7 +45,10 @@ JobBox::JobBox(QWidget *parent)
 
     connect(mCopies, &QSpinBox::valueChanged, this, &JobBox::edited);
     connect(mPages, &QLineEdit::textChanged, this, &JobBox::edited);
-    connect(mScaling, &QComboBox::currentIndexChanged, this, &JobBox::edited);
+    connect(mScaling, &QComboBox::currentIndexChanged, this, [this](int index) {
+        mWishesWholeDots = index == int(Scaling::WholeDots);
+        Q_EMIT edited();
+    });
 }
 
 void JobBox::showSettings(const JobSettings &settings)
@@ -55,7 +58,37 @@ void JobBox::showSettings(const JobSettings &settings)
     const QSignalBlocker silentScaling(mScaling);
     mCopies->setValue(settings.copies());
     mPages->setText(settings.pages().text());
-    mScaling->setCurrentIndex(int(settings.scaling()));
+    mWishesWholeDots = settings.scaling() == Scaling::WholeDots;
+    mScaling->setCurrentIndex(shownIndex(settings.scaling()));
+}
+
+int JobBox::shownIndex(Scaling scaling) const
+{
+    return int(scaling) < mScaling->count() ? int(scaling) : int(Scaling::Fit);
+}
+
+void JobBox::offerWholeDots(bool offered)
+{
+    const int index = int(Scaling::WholeDots);
+    if (offered == (mScaling->count() > index)) {
+        return;
+    }
+    // The wish stays, whatever is shown.
+    const QSignalBlocker silent(mScaling);
+    if (offered) {
+        mScaling->addItem(tr("Whole dots"));
+    } else {
+        mScaling->removeItem(index);
+    }
+    if (mWishesWholeDots) {
+        mScaling->setCurrentIndex(shownIndex(Scaling::WholeDots));
+        Q_EMIT edited();
+    }
+}
+
+void JobBox::pickScaling(Scaling scaling)
+{
+    mScaling->setCurrentIndex(shownIndex(scaling));
 }
 
 std::optional<Failure> JobBox::takeOver(JobSettings &settings, int pageCount) const

@@ -23,6 +23,13 @@ public:
     /// Shows `settings` without a signal.
     void showSettings(const JobSettings &settings);
 
+    /// Whether whole dots are to be had. Where they are not, Fit is shown in their place until they
+    /// are again.
+    void offerWholeDots(bool offered);
+
+    /// As if the user picked it.
+    void pickScaling(Scaling scaling);
+
     /// Takes what is shown over into `settings`. The failure names a page range that cannot be read
     /// or that has none of the document's `pageCount` pages; `settings` keeps its pages then.
     std::optional<Failure> takeOver(JobSettings &settings, int pageCount) const;
@@ -32,9 +39,13 @@ Q_SIGNALS:
     void edited();
 
 private:
+    int shownIndex(Scaling scaling) const;
+
     QSpinBox *mCopies;
     QLineEdit *mPages;
     QComboBox *mScaling;
+    /// They are wished for, and shown as soon as they are to be had.
+    bool mWishesWholeDots = false;
 };
 
 } // namespace dialog

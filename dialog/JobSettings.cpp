@@ -4,6 +4,8 @@
 #include "dialog/PropertyList.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace dialog {
 
@@ -22,10 +24,19 @@ constexpr QLatin1String kOption("Option");
 constexpr QLatin1String kChoice("Choice");
 constexpr QLatin1String kValues("Values");
 constexpr QLatin1String kPageSize("PageSize");
+const QString kWholeDots = QStringLiteral("whole-dots");
 
+/// For the print system, which knows nothing of whole dots; a document that goes there without
+/// dots is fitted.
+QString printScalingOf(Scaling scaling)
+{
+    return scaling == Scaling::ActualSize ? QStringLiteral("none") : QStringLiteral("fit");
+}
+
+/// For settings.plist.
 QString keywordOf(Scaling scaling)
 {
-    return scaling == Scaling::Fit ? QStringLiteral("fit") : QStringLiteral("none");
+    return scaling == Scaling::WholeDots ? kWholeDots : printScalingOf(scaling);
 }
 
 template <class Choices> auto find(Choices &choices, const QString &option)
@@ -125,6 +136,19 @@ void JobSettings::removeChoice(const QString &option)
     std::erase_if(mChoices, [&option](const OptionChoice &pair) { return pair.option == option; });
 }
 
+std::optional<Scaling> JobSettings::scalingCalled(const QString &word)
+{
+    const std::pair<QString, Scaling> words[] = {{QStringLiteral("fit"), Scaling::Fit},
+                                                 {QStringLiteral("actual"), Scaling::ActualSize},
+                                                 {kWholeDots, Scaling::WholeDots}};
+    for (const auto &[known, scaling] : words) {
+        if (word == known) {
+            return scaling;
+        }
+    }
+    return {};
+}
+
 OptionChoices JobSettings::jobOptions() const
 {
     OptionChoices options{{QStringLiteral("copies"), QString::number(mCopies)}};
@@ -134,7 +158,7 @@ OptionChoices JobSettings::jobOptions() const
     if (mLabelSize) {
         options.push_back({kPageSize, mLabelSize->pageSizeChoice()});
     }
-    options.push_back({QStringLiteral("print-scaling"), keywordOf(mScaling)});
+    options.push_back({QStringLiteral("print-scaling"), printScalingOf(mScaling)});
     std::copy_if(
         mChoices.begin(), mChoices.end(), std::back_inserter(options),
         [this](const OptionChoice &pair) { return !mLabelSize || pair.option != kPageSize; });
@@ -238,10 +262,13 @@ std::optional<Failure> JobSettings::readFrom(const QVariantMap &map, const QStri
         return unusable(kPages);
     }
     const QString scaling = map.value(kScaling).toString();
-    mScaling = scaling == keywordOf(Scaling::Fit) ? Scaling::Fit : Scaling::ActualSize;
-    if (scaling != keywordOf(mScaling)) {
+    const Scaling known[] = {Scaling::Fit, Scaling::ActualSize, Scaling::WholeDots};
+    const auto *found = std::find_if(std::begin(known), std::end(known),
+                                     [&](Scaling one) { return keywordOf(one) == scaling; });
+    if (found == std::end(known)) {
         return unusable(kScaling);
     }
+    mScaling = *found;
     if (map.contains(kLabelSize) && !readSize(map.value(kLabelSize))) {
         return unusable(kLabelSize);
     }

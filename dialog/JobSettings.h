@@ -20,7 +20,8 @@ namespace dialog {
 enum class Scaling
 {
     Fit, ///< as large as the label allows
-    ActualSize ///< as large as in the document
+    ActualSize, ///< as large as in the document
+    WholeDots ///< each pixel of a picture so many whole dots, as many as fit; else as Fit
 };
 
 /// The settings of one print job: its own (title, copies, pages, label size, scaling) and the
@@ -65,6 +66,9 @@ public:
     std::optional<QString> choice(const QString &option) const;
     void setChoice(const QString &option, const QString &choice);
     void removeChoice(const QString &option);
+
+    /// "fit", "actual" or "whole-dots", as the command line has them; nothing for other words.
+    static std::optional<Scaling> scalingCalled(const QString &word);
 
     /// Everything as options of the print job: the job's own first, then the choices.
     OptionChoices jobOptions() const;

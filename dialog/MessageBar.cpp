@@ -34,11 +34,11 @@ MessageBar::MessageBar(QWidget *parent)
     row->addWidget(mText, 1);
     row->addWidget(mAction);
     row->addWidget(mClose, 0, Qt::AlignTop);
-    connect(mClose, &QToolButton::clicked, this, &MessageBar::clear);
+    connect(mClose, &QToolButton::clicked, this, &MessageBar::close);
     connect(mAction, &QToolButton::clicked, this, [this] {
         // The action may show the next message, so this one goes first.
         const std::function<void()> run = std::exchange(mRun, nullptr);
-        clear();
+        close();
         if (run) {
             run();
         }
@@ -54,23 +54,59 @@ void MessageBar::show(Kind kind, const QString &text)
 void MessageBar::show(Kind kind, const QString &text, const QString &actionText,
                       std::function<void()> action)
 {
-    mRun = std::move(action);
-    mAction->setText(actionText);
-    mAction->setVisible(!actionText.isEmpty());
-    const auto icon =
-        kind == Kind::Warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
+    mShowsStanding = false;
+    display({kind, text, actionText, std::move(action)});
+}
+
+void MessageBar::setStanding(Kind kind, const QString &text, const QString &actionText,
+                             std::function<void()> action)
+{
+    const bool isNew = text != mStanding.text || actionText != mStanding.actionText;
+    mStanding = {kind, text, actionText, std::move(action)};
+    if (!isNew) {
+        mRun = mShowsStanding ? mStanding.action : mRun;
+        return;
+    }
+    mStandingIsClosed = false;
+    if (mShowsStanding || this->text().isEmpty()) {
+        displayStanding();
+    }
+}
+
+void MessageBar::display(const Message &message)
+{
+    mRun = message.action;
+    mAction->setText(message.actionText);
+    mAction->setVisible(!message.actionText.isEmpty());
+    const auto icon = message.kind == Kind::Warning ? QStyle::SP_MessageBoxWarning
+                                                    : QStyle::SP_MessageBoxInformation;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     mIcon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
-    mText->setText(text);
-    setVisible(true);
-    QAccessibleEvent event(mText, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    mText->setText(message.text);
+    setVisible(!message.text.isEmpty());
+    if (!message.text.isEmpty()) {
+        QAccessibleEvent event(mText, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void MessageBar::displayStanding()
+{
+    mShowsStanding = !mStanding.text.isEmpty() && !mStandingIsClosed;
+    display(mShowsStanding ? mStanding : Message());
+}
+
+void MessageBar::close()
+{
+    mStandingIsClosed = mStandingIsClosed || mShowsStanding;
+    displayStanding();
 }
 
 void MessageBar::clear()
 {
-    mText->clear();
-    setVisible(false);
+    if (!mShowsStanding) {
+        displayStanding();
+    }
 }
 
 QString MessageBar::text() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PrintDialog.h"
 
+#include "dialog/BarcodeGuard.h"
 #include "dialog/ColourBadge.h"
 #include "dialog/JobBox.h"
 #include "dialog/LabelSizeBox.h"
@@ -26,6 +27,7 @@ PrintDialog::PrintDialog(PrintController &controller, PrinterList &printers, QWi
     : QDialog(parent)
     , mController(controller)
     , mPrinters(printers)
+    , mGuard(new BarcodeGuard(this))
     , mPreview(new PagePreview(this))
     , mColours(new ColourBadge(this))
     , mSummary(new SummaryView(this))
@@ -130,6 +132,7 @@ void PrintDialog::connectAll()
     connect(&mController, &PrintController::progressed, this, [this](qint64 sent, qint64 total) {
         mProgress->setValue(total > 0 ? int(100 * sent / total) : 0);
     });
+    connect(mGuard, &BarcodeGuard::changed, this, &PrintDialog::showCodes);
     connect(mPreview, &PagePreview::pageShown, this, &PrintDialog::settled);
     connect(mJobBox, &JobBox::edited, this, &PrintDialog::jobEdited);
     connect(mSizeBox, &LabelSizeBox::sizePicked, this, &PrintDialog::sizePicked);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "dialog/CodeCheck.h"
 #include "dialog/DocumentPages.h"
 #include "dialog/PrintController.h"
 #include "dialog/PrinterList.h"
@@ -17,6 +18,7 @@ class QPushButton;
 
 namespace dialog {
 
+class BarcodeGuard;
 class ColourBadge;
 class JobBox;
 class LabelSizeBox;
@@ -45,6 +47,10 @@ public:
     /// Chooses the printer called `name` as soon as the list has it; empty takes the one that was
     /// printed to last, or else the server's default.
     void wishPrinter(const QString &name);
+
+    /// Nothing is printed while a code of the document would not be readable, or is not checked
+    /// yet.
+    void setStrict(bool strict);
 
     /// Shows a failure at the foot of the window.
     void showFailure(const Failure &failure);
@@ -84,6 +90,12 @@ private:
     void showClash();
     void updatePrintButton();
 
+    void guardCodes();
+    void showCodes();
+    void applyRemedy(CodeRemedy remedy);
+    QString noteOnWholeDots() const;
+    QString objectionOfGuard() const;
+
     void print();
     void printed(const QString &where);
     void jobFailed(const Failure &failure);
@@ -96,9 +108,11 @@ private:
     QString mWishedPrinter;
     bool mPrinterPicked = false;
     bool mLoading = false;
+    bool mIsStrict = false;
     std::optional<Failure> mJobFailure;
     std::optional<Failure> mClash;
 
+    BarcodeGuard *mGuard;
     PagePreview *mPreview;
     ColourBadge *mColours;
     SummaryView *mSummary;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/PrintDialog.h"
 
+#include "dialog/BarcodeGuard.h"
 #include "dialog/ColourBadge.h"
 #include "dialog/JobBox.h"
 #include "dialog/LabelSizeBox.h"
@@ -44,7 +45,8 @@ void PrintDialog::wishPrinter(const QString &name)
 
 bool PrintDialog::isSettled() const
 {
-    return mPreview->isUpToDate() && !mController.printer().name.isEmpty() && !mLoading;
+    return mPreview->isUpToDate() && !mController.printer().name.isEmpty() && !mLoading
+        && !mGuard->isBusy();
 }
 
 void PrintDialog::showFailure(const Failure &failure)
@@ -153,6 +155,7 @@ void PrintDialog::hideSetup()
     letGoOfSetup();
     mSizeBox->setSizes({}, {});
     mClash.reset();
+    mGuard->clear();
     updatePrintButton();
 }
 
@@ -190,6 +193,7 @@ void PrintDialog::jobEdited()
         setup->settings().takeGeneralPart(mJob);
     }
     mPreview->setScaling(mJob.scaling());
+    guardCodes();
     updatePrintButton();
 }
 
@@ -238,6 +242,7 @@ void PrintDialog::showSheet()
         // While nobody knows the label, the page is shown by itself.
         mPreview->setSheet(setup ? setup->sheet() : Sheet());
     }
+    guardCodes();
 }
 
 void PrintDialog::showClash()
@@ -260,8 +265,10 @@ void PrintDialog::updatePrintButton()
 {
     const std::optional<int> row = mPrinters.rowOf(mController.printer().name);
     const bool accepts = row && mPrinters.at(*row).acceptsJobs;
+    const QString objection = objectionOfGuard();
+    mPrint->setToolTip(objection);
     mPrint->setEnabled(mDocument && mController.setup() && accepts && !mJobFailure && !mClash
-                       && !mController.isPrinting());
+                       && !mController.isPrinting() && objection.isEmpty());
 }
 
 void PrintDialog::print()

@@ -59,7 +59,7 @@ PagePlacement SheetLayout::actualSize(const QSizeF &page, const Sheet &sheet)
 
 PagePlacement SheetLayout::place(const QSizeF &page, const Sheet &sheet, Scaling scaling)
 {
-    return scaling == Scaling::Fit ? fit(page, sheet) : actualSize(page, sheet);
+    return scaling == Scaling::ActualSize ? actualSize(page, sheet) : fit(page, sheet);
 }
 
 } // namespace dialog

@@ -54,7 +54,8 @@ public:
     /// the sheet is cut off (print-scaling=none).
     static PagePlacement actualSize(const QSizeF &page, const Sheet &sheet);
 
-    /// The one of the two that `scaling` means.
+    /// The one of the two that `scaling` means. For whole dots, what becomes of a page that cannot
+    /// have them; placeOnDots knows the dots.
     static PagePlacement place(const QSizeF &page, const Sheet &sheet, Scaling scaling);
 };
 

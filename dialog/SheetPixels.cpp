@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "dialog/SheetPixels.h"
 
+#include "dialog/DotPlacement.h"
 #include "imaging/Grey.h"
 
 #include <QTransform>
@@ -11,13 +12,6 @@
 namespace dialog {
 
 namespace {
-
-// Position and size apart, so that a picture of as many pixels as dots gets just these.
-QRect onWholeDots(const QRectF &place)
-{
-    const QSize size = place.size().toSize().expandedTo(QSize(1, 1));
-    return {place.topLeft().toPoint(), place.isEmpty() ? QSize() : size};
-}
 
 void writeGrey(const QImage &image, int row, std::uint8_t *to)
 {
@@ -48,10 +42,8 @@ SheetPixels::SheetPixels(std::shared_ptr<const DocumentPages> document, int page
     , mPage(page)
     , mForm(form)
 {
-    const QSizeF size = mDocument->pageSize(page);
-    const Sheet label = sheet.size.isEmpty() ? Sheet{size, QMarginsF()} : sheet;
-    const PagePlacement placement = SheetLayout::place(size, label, scaling);
-    mPlace = onWholeDots(form.inDots(placement.page));
+    const DotPlacement placement = placeOnDots(*mDocument, page, sheet, scaling, form);
+    mPlace = placement.place;
     mTurned = placement.turned;
 }
 

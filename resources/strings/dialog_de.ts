@@ -36,6 +36,114 @@
     </message>
 </context>
 <context>
+    <name>dialog::BatchPrint</name>
+    <message>
+        <source>the document has no pixels of its own; choose fit or actual</source>
+        <translation>das Dokument hat keine eigenen Pixel; wählen Sie fit oder actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known; choose fit or actual</source>
+        <translation>die Punkte des Druckers sind nicht bekannt; wählen Sie fit oder actual</translation>
+    </message>
+    <message>
+        <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>das Bild hat mehr Pixel als das Etikett Punkte; es wird an das Etikett angepasst</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CodeWarning</name>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone</source>
+        <translation>ist aus diesen Punkten nicht lesbar; wählen Sie „Schwellwert“ als Raster</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Whole dots as the scale</source>
+        <translation>ist aus diesen Punkten nicht lesbar; wählen Sie „Ganze Punkte“ als Skalierung</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone and Whole dots as the scale</source>
+        <translation>ist aus diesen Punkten nicht lesbar; wählen Sie „Schwellwert“ als Raster und „Ganze Punkte“ als Skalierung</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Actual size as the scale</source>
+        <translation>ist aus diesen Punkten nicht lesbar; wählen Sie „Tatsächliche Größe“ als Skalierung</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Fit to label as the scale</source>
+        <translation>ist aus diesen Punkten nicht lesbar; wählen Sie „An Etikett anpassen“ als Skalierung</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; set brightness and contrast to 0</source>
+        <translation>ist aus diesen Punkten nicht lesbar; stellen Sie Helligkeit und Kontrast auf 0</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome</source>
+        <translation>wird rot gedruckt, was Scanner nicht sehen; wählen Sie „Einfarbig“</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome or lower the red level</source>
+        <translation>wird rot gedruckt, was Scanner nicht sehen; wählen Sie „Einfarbig“ oder verringern Sie den Rotanteil</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; make the code larger: its bars are %1 dots wide, %2 or more are safe</source>
+        <translation>ist aus diesen Punkten nicht lesbar; vergrößern Sie den Code: Seine Balken sind %1 Punkte breit, ab %2 sind sie sicher</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; print it in black in the document</source>
+        <translation>wird rot gedruckt, was Scanner nicht sehen; machen Sie ihn im Dokument schwarz</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots, and no setting helps; make the code larger and pure black on white in the document</source>
+        <translation>ist aus diesen Punkten nicht lesbar, und keine Einstellung hilft; machen Sie den Code im Dokument größer und rein schwarz auf weiß</translation>
+    </message>
+    <message>
+        <source>%1 on page %2</source>
+        <comment>a kind of barcode</comment>
+        <translation>%1 auf Seite %2</translation>
+    </message>
+    <message>
+        <source>%1 “%2” on page %3</source>
+        <comment>a kind of barcode and what it says</comment>
+        <translation>%1 „%2“ auf Seite %3</translation>
+    </message>
+    <message>
+        <source>Use Binary</source>
+        <translation>Schwellwert nehmen</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Ganze Punkte</translation>
+    </message>
+    <message>
+        <source>Binary and whole dots</source>
+        <translation>Schwellwert und ganze Punkte</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tatsächliche Größe</translation>
+    </message>
+    <message>
+        <source>Fit to label</source>
+        <translation>An Etikett anpassen</translation>
+    </message>
+    <message>
+        <source>Set to 0</source>
+        <translation>Auf 0 stellen</translation>
+    </message>
+    <message>
+        <source>Use Monochrome</source>
+        <translation>Einfarbig nehmen</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome, and Binary as the halftone</source>
+        <translation>wird rot gedruckt, was Scanner nicht sehen; wählen Sie „Einfarbig“ und „Schwellwert“ als Raster</translation>
+    </message>
+    <message>
+        <source>Monochrome and Binary</source>
+        <translation>Einfarbig und Schwellwert</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ColourBadge</name>
     <message>
         <source>The label is printed in black and red</source>
@@ -137,24 +245,6 @@
         <translation>Die Version zeigen und beenden.</translation>
     </message>
     <message>
-        <source>Exit codes:
-  0  printed, or did what else was asked for
-  1  the dialog was closed without printing
-  2  the command line cannot be used
-  3  the document cannot be read
-  4  the printer, its PPD or a setting for it cannot be used
-  5  the job could not be handed over
-</source>
-        <translation>Rückgabewerte:
-  0  gedruckt oder anderes Verlangtes erledigt
-  1  der Dialog wurde geschlossen, ohne zu drucken
-  2  die Befehlszeile ist nicht verwendbar
-  3  das Dokument ist nicht lesbar
-  4  der Drucker, seine PPD oder eine Einstellung dafür ist nicht verwendbar
-  5  der Auftrag konnte nicht übergeben werden
-</translation>
-    </message>
-    <message>
         <source>Prints a document on a label printer.</source>
         <translation>Druckt ein Dokument auf einem Etikettendrucker.</translation>
     </message>
@@ -193,6 +283,42 @@
     <message>
         <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
         <translation>Mit dem Etikett, den Farben und allem anderen aus dem Druckticket in &lt;Datei&gt; beginnen.</translation>
+    </message>
+    <message>
+        <source>How a page gets onto the label: fit, actual (its own size) or whole-dots (each pixel of a picture so many whole dots).</source>
+        <translation>Wie eine Seite auf das Etikett kommt: fit (angepasst), actual (eigene Größe) oder whole-dots (jedes Pixel eines Bildes so viele ganze Punkte).</translation>
+    </message>
+    <message>
+        <source>way</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Print nothing while a barcode of the document would not be readable.</source>
+        <translation>Nichts drucken, solange ein Barcode des Dokuments nicht lesbar wäre.</translation>
+    </message>
+    <message>
+        <source>Exit codes:
+  0  printed, or did what else was asked for
+  1  the dialog was closed without printing
+  2  the command line cannot be used
+  3  the document cannot be read
+  4  the printer, its PPD or a setting for it cannot be used
+  5  the job could not be handed over
+  6  a barcode would not be readable (--strict)
+</source>
+        <translation>Rückgabewerte:
+  0  gedruckt oder anderes Verlangtes erledigt
+  1  der Dialog wurde geschlossen, ohne zu drucken
+  2  die Befehlszeile ist nicht verwendbar
+  3  das Dokument ist nicht lesbar
+  4  der Drucker, seine PPD oder eine Einstellung dafür ist nicht verwendbar
+  5  der Auftrag konnte nicht übergeben werden
+  6  ein Barcode wäre nicht lesbar (--strict)
+</translation>
+    </message>
+    <message>
+        <source>choose fit, actual or whole-dots</source>
+        <translation>wählen Sie fit, actual oder whole-dots</translation>
     </message>
 </context>
 <context>
@@ -453,6 +579,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>Ska&amp;lierung:</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Ganze Punkte</translation>
     </message>
 </context>
 <context>
@@ -860,6 +990,22 @@
     <message>
         <source>Put right</source>
         <translation>Beheben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %n more cannot be read either</source>
+        <comment>a sentence about a barcode</comment>
+        <translation>
+            <numerusform>%1; %n weiterer ist ebenfalls nicht lesbar</numerusform>
+            <numerusform>%1; %n weitere sind ebenfalls nicht lesbar</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whole dots: the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>Ganze Punkte: Das Bild hat mehr Pixel als das Etikett Punkte; es wird an das Etikett angepasst</translation>
+    </message>
+    <message>
+        <source>Nothing is printed until all barcodes can be read (--strict)</source>
+        <translation>Es wird nichts gedruckt, bis alle Barcodes lesbar sind (--strict)</translation>
     </message>
 </context>
 <context>

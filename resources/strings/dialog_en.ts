@@ -21,4 +21,15 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>dialog::PrintDialog</name>
+    <message numerus="yes">
+        <source>%1; %n more cannot be read either</source>
+        <comment>a sentence about a barcode</comment>
+        <translation>
+            <numerusform>%1; %n more cannot be read either</numerusform>
+            <numerusform>%1; %n more cannot be read either</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -36,6 +36,114 @@
     </message>
 </context>
 <context>
+    <name>dialog::BatchPrint</name>
+    <message>
+        <source>the document has no pixels of its own; choose fit or actual</source>
+        <translation>el documento no tiene píxeles propios; elija fit o actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known; choose fit or actual</source>
+        <translation>no se conocen los puntos de la impresora; elija fit o actual</translation>
+    </message>
+    <message>
+        <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>la imagen tiene más píxeles que puntos la etiqueta; se ajusta a la etiqueta</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CodeWarning</name>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone</source>
+        <translation>no se puede leer a partir de estos puntos; elija «Umbral» como tramado</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Whole dots as the scale</source>
+        <translation>no se puede leer a partir de estos puntos; elija «Puntos enteros» como escala</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone and Whole dots as the scale</source>
+        <translation>no se puede leer a partir de estos puntos; elija «Umbral» como tramado y «Puntos enteros» como escala</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Actual size as the scale</source>
+        <translation>no se puede leer a partir de estos puntos; elija «Tamaño real» como escala</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Fit to label as the scale</source>
+        <translation>no se puede leer a partir de estos puntos; elija «Ajustar a la etiqueta» como escala</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; set brightness and contrast to 0</source>
+        <translation>no se puede leer a partir de estos puntos; ponga el brillo y el contraste a 0</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome</source>
+        <translation>se imprime en rojo, que los lectores no ven; elija «Monocromo»</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome or lower the red level</source>
+        <translation>se imprime en rojo, que los lectores no ven; elija «Monocromo» o baje el nivel de rojo</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; make the code larger: its bars are %1 dots wide, %2 or more are safe</source>
+        <translation>no se puede leer a partir de estos puntos; agrande el código: sus barras miden %1 puntos de ancho, %2 o más son seguros</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; print it in black in the document</source>
+        <translation>se imprime en rojo, que los lectores no ven; póngalo en negro en el documento</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots, and no setting helps; make the code larger and pure black on white in the document</source>
+        <translation>no se puede leer a partir de estos puntos y ningún ajuste ayuda; en el documento, agrande el código y póngalo en negro puro sobre blanco</translation>
+    </message>
+    <message>
+        <source>%1 on page %2</source>
+        <comment>a kind of barcode</comment>
+        <translation>%1 en la página %2</translation>
+    </message>
+    <message>
+        <source>%1 “%2” on page %3</source>
+        <comment>a kind of barcode and what it says</comment>
+        <translation>%1 «%2» en la página %3</translation>
+    </message>
+    <message>
+        <source>Use Binary</source>
+        <translation>Usar umbral</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Puntos enteros</translation>
+    </message>
+    <message>
+        <source>Binary and whole dots</source>
+        <translation>Umbral y puntos enteros</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Fit to label</source>
+        <translation>Ajustar a la etiqueta</translation>
+    </message>
+    <message>
+        <source>Set to 0</source>
+        <translation>Poner a 0</translation>
+    </message>
+    <message>
+        <source>Use Monochrome</source>
+        <translation>Usar monocromo</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome, and Binary as the halftone</source>
+        <translation>se imprime en rojo, que los lectores no ven; elija «Monocromo», y «Umbral» como tramado</translation>
+    </message>
+    <message>
+        <source>Monochrome and Binary</source>
+        <translation>Monocromo y umbral</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ColourBadge</name>
     <message>
         <source>The label is printed in black and red</source>
@@ -137,24 +245,6 @@
         <translation>Mostrar la versión y salir.</translation>
     </message>
     <message>
-        <source>Exit codes:
-  0  printed, or did what else was asked for
-  1  the dialog was closed without printing
-  2  the command line cannot be used
-  3  the document cannot be read
-  4  the printer, its PPD or a setting for it cannot be used
-  5  the job could not be handed over
-</source>
-        <translation>Códigos de salida:
-  0  se imprimió o se hizo lo demás que se pidió
-  1  el diálogo se cerró sin imprimir
-  2  la línea de órdenes no se puede usar
-  3  el documento no se puede leer
-  4  la impresora, su PPD o uno de sus ajustes no se puede usar
-  5  el trabajo no se pudo entregar
-</translation>
-    </message>
-    <message>
         <source>Prints a document on a label printer.</source>
         <translation>Imprime un documento en una impresora de etiquetas.</translation>
     </message>
@@ -193,6 +283,42 @@
     <message>
         <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
         <translation>Empezar con la etiqueta, los colores y lo demás del tique de impresión en &lt;archivo&gt;.</translation>
+    </message>
+    <message>
+        <source>How a page gets onto the label: fit, actual (its own size) or whole-dots (each pixel of a picture so many whole dots).</source>
+        <translation>Cómo llega una página a la etiqueta: fit (ajustada), actual (su tamaño) o whole-dots (cada píxel de una imagen en un número entero de puntos).</translation>
+    </message>
+    <message>
+        <source>way</source>
+        <translation>modo</translation>
+    </message>
+    <message>
+        <source>Print nothing while a barcode of the document would not be readable.</source>
+        <translation>No imprimir nada mientras un código de barras del documento no fuera legible.</translation>
+    </message>
+    <message>
+        <source>Exit codes:
+  0  printed, or did what else was asked for
+  1  the dialog was closed without printing
+  2  the command line cannot be used
+  3  the document cannot be read
+  4  the printer, its PPD or a setting for it cannot be used
+  5  the job could not be handed over
+  6  a barcode would not be readable (--strict)
+</source>
+        <translation>Códigos de salida:
+  0  se imprimió o se hizo lo demás que se pidió
+  1  el diálogo se cerró sin imprimir
+  2  la línea de órdenes no se puede usar
+  3  el documento no se puede leer
+  4  la impresora, su PPD o uno de sus ajustes no se puede usar
+  5  el trabajo no se pudo entregar
+  6  un código de barras no sería legible (--strict)
+</translation>
+    </message>
+    <message>
+        <source>choose fit, actual or whole-dots</source>
+        <translation>elija fit, actual o whole-dots</translation>
     </message>
 </context>
 <context>
@@ -453,6 +579,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>E&amp;scala:</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Puntos enteros</translation>
     </message>
 </context>
 <context>
@@ -860,6 +990,22 @@
     <message>
         <source>Put right</source>
         <translation>Corregir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %n more cannot be read either</source>
+        <comment>a sentence about a barcode</comment>
+        <translation>
+            <numerusform>%1; otro más (%n) tampoco se puede leer</numerusform>
+            <numerusform>%1; otros %n tampoco se pueden leer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whole dots: the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>Puntos enteros: la imagen tiene más píxeles que puntos la etiqueta; se ajusta a la etiqueta</translation>
+    </message>
+    <message>
+        <source>Nothing is printed until all barcodes can be read (--strict)</source>
+        <translation>No se imprime nada hasta que se puedan leer todos los códigos de barras (--strict)</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,114 @@
     </message>
 </context>
 <context>
+    <name>dialog::BatchPrint</name>
+    <message>
+        <source>the document has no pixels of its own; choose fit or actual</source>
+        <translation>le document n’a pas de pixels propres&#xa0;; choisissez fit ou actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known; choose fit or actual</source>
+        <translation>les points de l’imprimante ne sont pas connus&#xa0;; choisissez fit ou actual</translation>
+    </message>
+    <message>
+        <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>l’image a plus de pixels que l’étiquette n’a de points&#xa0;; elle est ajustée à l’étiquette</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CodeWarning</name>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; choisissez «&#xa0;Seuil&#xa0;» comme tramage</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Whole dots as the scale</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; choisissez «&#xa0;Points entiers&#xa0;» comme échelle</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone and Whole dots as the scale</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; choisissez «&#xa0;Seuil&#xa0;» comme tramage et «&#xa0;Points entiers&#xa0;» comme échelle</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Actual size as the scale</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; choisissez «&#xa0;Taille réelle&#xa0;» comme échelle</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Fit to label as the scale</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; choisissez «&#xa0;Ajuster à l’étiquette&#xa0;» comme échelle</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; set brightness and contrast to 0</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; mettez la luminosité et le contraste à 0</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome</source>
+        <translation>est imprimé en rouge, que les lecteurs ne voient pas&#xa0;; choisissez «&#xa0;Monochrome&#xa0;»</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome or lower the red level</source>
+        <translation>est imprimé en rouge, que les lecteurs ne voient pas&#xa0;; choisissez «&#xa0;Monochrome&#xa0;» ou baissez le niveau de rouge</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; make the code larger: its bars are %1 dots wide, %2 or more are safe</source>
+        <translation>ne peut pas être lu à partir de ces points&#xa0;; agrandissez le code&#xa0;: ses barres font %1 points de large, %2 ou plus sont sûrs</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; print it in black in the document</source>
+        <translation>est imprimé en rouge, que les lecteurs ne voient pas&#xa0;; mettez-le en noir dans le document</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots, and no setting helps; make the code larger and pure black on white in the document</source>
+        <translation>ne peut pas être lu à partir de ces points, et aucun réglage n’y change rien&#xa0;; dans le document, agrandissez le code et mettez-le en noir pur sur blanc</translation>
+    </message>
+    <message>
+        <source>%1 on page %2</source>
+        <comment>a kind of barcode</comment>
+        <translation>%1 à la page %2</translation>
+    </message>
+    <message>
+        <source>%1 “%2” on page %3</source>
+        <comment>a kind of barcode and what it says</comment>
+        <translation>%1 «&#xa0;%2&#xa0;» à la page %3</translation>
+    </message>
+    <message>
+        <source>Use Binary</source>
+        <translation>Utiliser le seuil</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Points entiers</translation>
+    </message>
+    <message>
+        <source>Binary and whole dots</source>
+        <translation>Seuil et points entiers</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Fit to label</source>
+        <translation>Ajuster à l’étiquette</translation>
+    </message>
+    <message>
+        <source>Set to 0</source>
+        <translation>Mettre à 0</translation>
+    </message>
+    <message>
+        <source>Use Monochrome</source>
+        <translation>Utiliser monochrome</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome, and Binary as the halftone</source>
+        <translation>est imprimé en rouge, que les lecteurs ne voient pas ; choisissez « Monochrome », et « Seuil » comme tramage</translation>
+    </message>
+    <message>
+        <source>Monochrome and Binary</source>
+        <translation>Monochrome et seuil</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ColourBadge</name>
     <message>
         <source>The label is printed in black and red</source>
@@ -137,24 +245,6 @@
         <translation>Afficher la version et quitter.</translation>
     </message>
     <message>
-        <source>Exit codes:
-  0  printed, or did what else was asked for
-  1  the dialog was closed without printing
-  2  the command line cannot be used
-  3  the document cannot be read
-  4  the printer, its PPD or a setting for it cannot be used
-  5  the job could not be handed over
-</source>
-        <translation>Codes de sortie&#xa0;:
-  0  imprimé, ou autre demande exécutée
-  1  la boîte de dialogue a été fermée sans imprimer
-  2  la ligne de commande est inutilisable
-  3  le document est illisible
-  4  l’imprimante, son PPD ou l’un de ses réglages est inutilisable
-  5  le travail n’a pas pu être transmis
-</translation>
-    </message>
-    <message>
         <source>Prints a document on a label printer.</source>
         <translation>Imprime un document sur une imprimante d’étiquettes.</translation>
     </message>
@@ -193,6 +283,42 @@
     <message>
         <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
         <translation>Commencer avec l’étiquette, les couleurs et le reste du ticket d’impression dans &lt;fichier&gt;.</translation>
+    </message>
+    <message>
+        <source>How a page gets onto the label: fit, actual (its own size) or whole-dots (each pixel of a picture so many whole dots).</source>
+        <translation>Comment une page est mise sur l’étiquette&#xa0;: fit (ajustée), actual (sa propre taille) ou whole-dots (chaque pixel d’une image en un nombre entier de points).</translation>
+    </message>
+    <message>
+        <source>way</source>
+        <translation>façon</translation>
+    </message>
+    <message>
+        <source>Print nothing while a barcode of the document would not be readable.</source>
+        <translation>Ne rien imprimer tant qu’un code-barres du document ne serait pas lisible.</translation>
+    </message>
+    <message>
+        <source>Exit codes:
+  0  printed, or did what else was asked for
+  1  the dialog was closed without printing
+  2  the command line cannot be used
+  3  the document cannot be read
+  4  the printer, its PPD or a setting for it cannot be used
+  5  the job could not be handed over
+  6  a barcode would not be readable (--strict)
+</source>
+        <translation>Codes de sortie&#xa0;:
+  0  imprimé, ou autre demande exécutée
+  1  la boîte de dialogue a été fermée sans imprimer
+  2  la ligne de commande est inutilisable
+  3  le document est illisible
+  4  l’imprimante, son PPD ou l’un de ses réglages est inutilisable
+  5  le travail n’a pas pu être transmis
+  6  un code-barres ne serait pas lisible (--strict)
+</translation>
+    </message>
+    <message>
+        <source>choose fit, actual or whole-dots</source>
+        <translation>choisissez fit, actual ou whole-dots</translation>
     </message>
 </context>
 <context>
@@ -453,6 +579,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>Éch&amp;elle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>Points entiers</translation>
     </message>
 </context>
 <context>
@@ -860,6 +990,22 @@
     <message>
         <source>Put right</source>
         <translation>Corriger</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %n more cannot be read either</source>
+        <comment>a sentence about a barcode</comment>
+        <translation>
+            <numerusform>%1&#xa0;; %n autre n’est pas lisible non plus</numerusform>
+            <numerusform>%1&#xa0;; %n autres ne sont pas lisibles non plus</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whole dots: the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>Points entiers&#xa0;: l’image a plus de pixels que l’étiquette n’a de points&#xa0;; elle est ajustée à l’étiquette</translation>
+    </message>
+    <message>
+        <source>Nothing is printed until all barcodes can be read (--strict)</source>
+        <translation>Rien n’est imprimé tant que tous les codes-barres ne sont pas lisibles (--strict)</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,114 @@
     </message>
 </context>
 <context>
+    <name>dialog::BatchPrint</name>
+    <message>
+        <source>the document has no pixels of its own; choose fit or actual</source>
+        <translation>この文書には固有の画素がありません。fit または actual を選んでください</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known; choose fit or actual</source>
+        <translation>プリンターのドットがわかりません。fit または actual を選んでください</translation>
+    </message>
+    <message>
+        <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>画像の画素がラベルのドットより多いため、ラベルに合わせます</translation>
+    </message>
+</context>
+<context>
+    <name>dialog::CodeWarning</name>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone</source>
+        <translation>はこのドットからは読み取れません。ハーフトーンに「2値化」を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Whole dots as the scale</source>
+        <translation>はこのドットからは読み取れません。倍率に「整数ドット」を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Binary as the halftone and Whole dots as the scale</source>
+        <translation>はこのドットからは読み取れません。ハーフトーンに「2値化」、倍率に「整数ドット」を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Actual size as the scale</source>
+        <translation>はこのドットからは読み取れません。倍率に「実際のサイズ」を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; choose Fit to label as the scale</source>
+        <translation>はこのドットからは読み取れません。倍率に「ラベルに合わせる」を選んでください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; set brightness and contrast to 0</source>
+        <translation>はこのドットからは読み取れません。明るさとコントラストを 0 にしてください</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome</source>
+        <translation>は赤で印刷され、スキャナーには見えません。「モノクロ」を選んでください</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome or lower the red level</source>
+        <translation>は赤で印刷され、スキャナーには見えません。「モノクロ」を選ぶか、赤レベルを下げてください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots; make the code larger: its bars are %1 dots wide, %2 or more are safe</source>
+        <translation>はこのドットからは読み取れません。コードを大きくしてください。バーの幅は %1 ドットで、%2 ドット以上なら確実です</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; print it in black in the document</source>
+        <translation>は赤で印刷され、スキャナーには見えません。文書で黒にしてください</translation>
+    </message>
+    <message>
+        <source>cannot be read from these dots, and no setting helps; make the code larger and pure black on white in the document</source>
+        <translation>はこのドットからは読み取れず、どの設定でも改善しません。文書のコードを大きくし、白地に真っ黒にしてください</translation>
+    </message>
+    <message>
+        <source>%1 on page %2</source>
+        <comment>a kind of barcode</comment>
+        <translation>%2 ページの %1</translation>
+    </message>
+    <message>
+        <source>%1 “%2” on page %3</source>
+        <comment>a kind of barcode and what it says</comment>
+        <translation>%3 ページの %1「%2」</translation>
+    </message>
+    <message>
+        <source>Use Binary</source>
+        <translation>2値化にする</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>整数ドット</translation>
+    </message>
+    <message>
+        <source>Binary and whole dots</source>
+        <translation>2値化と整数ドット</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Fit to label</source>
+        <translation>ラベルに合わせる</translation>
+    </message>
+    <message>
+        <source>Set to 0</source>
+        <translation>0 にする</translation>
+    </message>
+    <message>
+        <source>Use Monochrome</source>
+        <translation>モノクロにする</translation>
+    </message>
+    <message>
+        <source>is printed in red, which scanners do not see; choose Monochrome, and Binary as the halftone</source>
+        <translation>は赤で印刷され、スキャナーには見えません。「モノクロ」と、ハーフトーンに「2値化」を選んでください</translation>
+    </message>
+    <message>
+        <source>Monochrome and Binary</source>
+        <translation>モノクロと2値化</translation>
+    </message>
+</context>
+<context>
     <name>dialog::ColourBadge</name>
     <message>
         <source>The label is printed in black and red</source>
@@ -137,24 +245,6 @@
         <translation>バージョンを表示して終了します。</translation>
     </message>
     <message>
-        <source>Exit codes:
-  0  printed, or did what else was asked for
-  1  the dialog was closed without printing
-  2  the command line cannot be used
-  3  the document cannot be read
-  4  the printer, its PPD or a setting for it cannot be used
-  5  the job could not be handed over
-</source>
-        <translation>終了コード:
-  0  印刷した、またはほかの指定された処理を行った
-  1  印刷せずにダイアログが閉じられた
-  2  コマンドラインが正しくない
-  3  文書を読み取れない
-  4  プリンター、その PPD、または設定が使えない
-  5  ジョブを渡せなかった
-</translation>
-    </message>
-    <message>
         <source>Prints a document on a label printer.</source>
         <translation>文書をラベルプリンターで印刷します。</translation>
     </message>
@@ -193,6 +283,42 @@
     <message>
         <source>Start with the label, the colours and what else the print ticket in &lt;file&gt; holds.</source>
         <translation>&lt;ファイル&gt; の印刷チケットにあるラベル、色、その他の内容で開始します。</translation>
+    </message>
+    <message>
+        <source>How a page gets onto the label: fit, actual (its own size) or whole-dots (each pixel of a picture so many whole dots).</source>
+        <translation>ページのラベルへの載せ方: fit(合わせる)、actual(実際のサイズ)、whole-dots(画像の 1 画素を整数個のドットにする)。</translation>
+    </message>
+    <message>
+        <source>way</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>Print nothing while a barcode of the document would not be readable.</source>
+        <translation>文書のバーコードが読み取れない場合は何も印刷しません。</translation>
+    </message>
+    <message>
+        <source>Exit codes:
+  0  printed, or did what else was asked for
+  1  the dialog was closed without printing
+  2  the command line cannot be used
+  3  the document cannot be read
+  4  the printer, its PPD or a setting for it cannot be used
+  5  the job could not be handed over
+  6  a barcode would not be readable (--strict)
+</source>
+        <translation>終了コード:
+  0  印刷した、またはほかの指定された処理を行った
+  1  印刷せずにダイアログが閉じられた
+  2  コマンドラインが正しくない
+  3  文書を読み取れない
+  4  プリンター、その PPD、または設定が使えない
+  5  ジョブを渡せなかった
+  6  バーコードが読み取れない (--strict)
+</translation>
+    </message>
+    <message>
+        <source>choose fit, actual or whole-dots</source>
+        <translation>fit、actual、whole-dots のいずれかを選んでください</translation>
     </message>
 </context>
 <context>
@@ -453,6 +579,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>倍率(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Whole dots</source>
+        <translation>整数ドット</translation>
     </message>
 </context>
 <context>
@@ -858,6 +988,21 @@
     <message>
         <source>Put right</source>
         <translation>修正する</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %n more cannot be read either</source>
+        <comment>a sentence about a barcode</comment>
+        <translation>
+            <numerusform>%1。ほかに %n 個も読み取れません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Whole dots: the picture has more pixels than the label has dots; it is fitted to the label</source>
+        <translation>整数ドット: 画像の画素がラベルのドットより多いため、ラベルに合わせます</translation>
+    </message>
+    <message>
+        <source>Nothing is printed until all barcodes can be read (--strict)</source>
+        <translation>すべてのバーコードが読み取れるまで印刷しません (--strict)</translation>
     </message>
 </context>
 <context>
