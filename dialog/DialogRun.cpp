@@ -38,7 +38,7 @@ ExitCode DialogRun::savePicture(const QString &file)
     QEventLoop loop;
     QTimer::singleShot(kLongestWait, &loop, &QEventLoop::quit);
     const auto quitWhenShown = [&] {
-        if (mWindow.isSettled()) {
+        if (mWindow.isSettled() && mWindow.hasCheckedCodes()) {
             loop.quit();
         }
     };

@@ -59,8 +59,11 @@ public:
     /// sentence on why it is not there.
     bool isSettled() const;
 
+    /// Whether the codes of the document have been looked for in the dots, or there is no need.
+    bool hasCheckedCodes() const;
+
 Q_SIGNALS:
-    /// isSettled() may have become true.
+    /// isSettled() or hasCheckedCodes() may have become true.
     void settled();
 
 public Q_SLOTS:

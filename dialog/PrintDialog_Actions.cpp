@@ -45,8 +45,7 @@ void PrintDialog::wishPrinter(const QString &name)
 
 bool PrintDialog::isSettled() const
 {
-    return mPreview->isUpToDate() && !mController.printer().name.isEmpty() && !mLoading
-        && !mGuard->isBusy();
+    return mPreview->isUpToDate() && !mController.printer().name.isEmpty() && !mLoading;
 }
 
 void PrintDialog::showFailure(const Failure &failure)

@@ -20,6 +20,11 @@ void PrintDialog::setStrict(bool strict)
     updatePrintButton();
 }
 
+bool PrintDialog::hasCheckedCodes() const
+{
+    return !mGuard->isBusy();
+}
+
 void PrintDialog::guardCodes()
 {
     PrinterSetup *setup = mController.setup();

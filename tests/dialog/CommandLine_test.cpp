@@ -70,11 +70,31 @@ TEST(CommandLine, HelpNamesEveryOptionAndEveryExitCode)
     const auto answer = read({QStringLiteral("--help")});
     const std::string help = std::get<QString>(answer).toStdString();
     for (const char *text :
-         {"--printer", "--ppd", "--output", "-o <", "--copies", "--pages", "--plugin",
-          "--no-dialog", "--list-printers", "--screenshot", "--version", "--help", "  0  ", "  1  ",
-          "  2  ", "  3  ", "  4  ", "  5  "}) {
+         {"--printer", "--ppd",       "--output",        "-o <",         "--copies",  "--pages",
+          "--plugin",  "--no-dialog", "--list-printers", "--screenshot", "--version", "--help",
+          "  0  ",     "  1  ",       "  2  ",           "  3  ",        "  4  ",     "  5  ",
+          "  6  ",     "--scaling",   "--strict"}) {
         EXPECT_THAT(help, HasSubstr(text));
     }
+}
+
+TEST(CommandLine, TheScalingIsOneOfThree)
+{
+    const auto scaling = [](const char *word) {
+        return lineOf({QStringLiteral("--scaling"), QLatin1String(word)}).scaling;
+    };
+    EXPECT_EQ(scaling("fit"), Scaling::Fit);
+    EXPECT_EQ(scaling("actual"), Scaling::ActualSize);
+    EXPECT_EQ(scaling("whole-dots"), Scaling::WholeDots);
+    EXPECT_EQ(lineOf({}).scaling, std::nullopt);
+    EXPECT_EQ(failureOf({QStringLiteral("--scaling"), QStringLiteral("none")}),
+              "--scaling none: choose fit, actual or whole-dots");
+}
+
+TEST(CommandLine, StrictIsAskedFor)
+{
+    EXPECT_TRUE(lineOf({QStringLiteral("--strict")}).strict);
+    EXPECT_FALSE(lineOf({}).strict);
 }
 
 TEST(CommandLine, VersionIsOneLine)
@@ -121,12 +141,13 @@ TEST(CommandLine, EveryKindOfFailureHasAnExitCodeThatIsNotZero)
     for (const FailureKind kind :
          {FailureKind::Usage, FailureKind::Document, FailureKind::Ppd, FailureKind::Settings,
           FailureKind::Server, FailureKind::Printer, FailureKind::Job, FailureKind::Folder,
-          FailureKind::Panel, FailureKind::Cancelled}) {
+          FailureKind::Panel, FailureKind::Barcode, FailureKind::Cancelled}) {
         EXPECT_NE(exitCodeOf(kind), ExitCode::Done);
     }
     EXPECT_EQ(exitCodeOf(FailureKind::Document), ExitCode::Document);
     EXPECT_EQ(exitCodeOf(FailureKind::Ppd), ExitCode::Printer);
     EXPECT_EQ(exitCodeOf(FailureKind::Server), ExitCode::Job);
+    EXPECT_EQ(int(exitCodeOf(FailureKind::Barcode)), 6);
 }
 
 } // namespace

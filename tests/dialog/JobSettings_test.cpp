@@ -207,6 +207,18 @@ INSTANTIATE_TEST_SUITE_P(
                     Break{"OptionWithoutChoice", "<key>Choice<", "<key>Value<"}),
     [](const auto &change) { return std::string(change.param.name); });
 
+TEST(JobSettings, WholeDotsAreKeptAndAreFitToThePrintSystem)
+{
+    JobSettings settings;
+    settings.setScaling(Scaling::WholeDots);
+    EXPECT_EQ(settings.jobOptions().back(),
+              (dialog::OptionChoice{QStringLiteral("print-scaling"), QStringLiteral("fit")}));
+    const auto read = JobSettings::fromDataRepresentation(*settings.dataRepresentation(),
+                                                          QStringLiteral("job.plist"));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read.value().scaling(), Scaling::WholeDots);
+}
+
 TEST(JobSettings, DataThatIsNoPropertyListIsRefused)
 {
     const auto read = JobSettings::fromDataRepresentation("text", QStringLiteral("job.plist"));
