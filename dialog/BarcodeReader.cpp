@@ -90,9 +90,10 @@ BarcodeReader::~BarcodeReader()
 
 QString BarcodeReader::installedProgram()
 {
+    // The folder may also stand there with its whole path.
+    const QDir root(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
     return QDir::cleanPath(
-        QCoreApplication::applicationDirPath()
-        + QStringLiteral("/../" LABELPRINT_LIBEXECDIR "/label-print/read-barcodes"));
+        root.absoluteFilePath(QStringLiteral(LABELPRINT_LIBEXECDIR "/label-print/read-barcodes")));
 }
 
 bool BarcodeReader::start()

@@ -31,7 +31,7 @@ PageCode pageCodeOf(const Barcode &code, const QImage &grey, const QPoint &offse
         return QPointF((pixel.x() + offset.x()) * pointsOfPixel.width(),
                        (pixel.y() + offset.y()) * pointsOfPixel.height());
     };
-    PageCode found{code.format, code.text, code.isLinear, {}, 0, {}};
+    PageCode found{code.format, code.text, {}, 0, {}};
     const QRectF place(code.place());
     found.place = QRectF(onPage(place.topLeft()), onPage(place.bottomRight()));
     // One pixel of the code's own row, in points.

@@ -18,7 +18,6 @@ struct PageCode
     /// As people write it: "EAN-13", "QR Code".
     QString format;
     QString text;
-    bool isLinear = false;
     /// On the upright page, in points.
     QRectF place;
     /// The narrowest bar, or a module of a field, along the code's own rows, in points.

@@ -13,12 +13,34 @@ constexpr double kPixelsOfBar = 6;
 constexpr int kMostPixelsOfDot = 4;
 /// The longest side of what a scanner takes in at once, in pixels.
 constexpr int kLongestSide = 6000;
+/// The pixels of the largest picture; read-barcodes takes some more.
+constexpr double kMostPixels = 48e6;
 
 QImage whitePaper(const QSize &size)
 {
     QImage paper(size, QImage::Format_Grayscale8);
     paper.fill(Qt::white);
     return paper;
+}
+
+void addRow(std::vector<int> &columns, const uchar *row, int times)
+{
+    for (std::size_t x = 0; x < columns.size(); ++x) {
+        columns[x] += times * row[x];
+    }
+}
+
+/// The mean of `blur` columns, at the place of the one that has `after` of them behind it.
+void putMeans(const std::vector<int> &columns, int blur, int after, uchar *to)
+{
+    const auto wide = std::size_t(blur);
+    int sum = 0;
+    for (std::size_t x = 0; x < columns.size(); ++x) {
+        sum += columns[x] - (x >= wide ? columns[x - wide] : 0);
+        if (x + 1 >= wide) {
+            to[x - std::size_t(after)] = uchar(sum / (blur * blur));
+        }
+    }
 }
 
 /// The mean of `blur` x `blur` pixels, for each pixel.
@@ -31,17 +53,16 @@ QImage blurred(const QImage &grey, int blur)
     // What has not all neighbours, at the edges, is paper.
     QImage result = whitePaper(size);
     const int before = (blur - 1) / 2;
-    for (int y = before; y + blur - before <= size.height(); ++y) {
-        uchar *to = result.scanLine(y);
-        for (int x = before; x + blur - before <= size.width(); ++x) {
-            int sum = 0;
-            for (int dy = 0; dy < blur; ++dy) {
-                const uchar *from = grey.constScanLine(y - before + dy) + (x - before);
-                for (int dx = 0; dx < blur; ++dx) {
-                    sum += from[dx];
-                }
-            }
-            to[x] = uchar(sum / (blur * blur));
+    const int after = blur - 1 - before;
+    // Of each column, the pixels of the last `blur` rows.
+    std::vector<int> columns(std::size_t(size.width()), 0);
+    for (int y = 0; y < size.height(); ++y) {
+        addRow(columns, grey.constScanLine(y), 1);
+        if (y >= blur) {
+            addRow(columns, grey.constScanLine(y - blur), -1);
+        }
+        if (y >= blur - 1) {
+            putMeans(columns, blur, after, result.scanLine(y - after));
         }
     }
     return result;
@@ -155,8 +176,11 @@ Result<QImage> scannerView(const InkTones &tones, const QRectF &place, double ba
     if (!grey) {
         return grey;
     }
-    const int pixels =
-        std::clamp(int(std::ceil(kPixelsOfBar / std::max(bars, 1.0))), 1, kMostPixelsOfDot);
+    const double area =
+        double(part.width()) * part.height() * tones.shape.width() * tones.shape.height();
+    const int most =
+        std::clamp(int(std::sqrt(kMostPixels / std::max(area, 1.0))), 1, kMostPixelsOfDot);
+    const int pixels = std::clamp(int(std::ceil(kPixelsOfBar / std::max(bars, 1.0))), 1, most);
     const QImage seen = blurred(grey.value(), look.blur);
     return seen.scaled(seen.width() * pixels * tones.shape.width(),
                        seen.height() * pixels * tones.shape.height());

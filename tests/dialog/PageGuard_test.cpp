@@ -275,7 +275,7 @@ TEST_F(PageGuard, AskedNotToGoOnItStops)
     EXPECT_TRUE(lostOn(printed).empty());
 }
 
-TEST_F(PageGuard, APageThatIsNotThereIsTheFailureOfTheDocument)
+TEST_F(PageGuard, APageThatIsNotThereHasNoCodes)
 {
     PrintedPage printed = label(emptyLabel());
     printed.page = 7;
