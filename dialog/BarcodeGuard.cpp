@@ -135,8 +135,7 @@ void BarcodeGuard::take(const Cancel &cancel, const Result<std::vector<LostCode>
     if (cancel != mCancel) {
         return;
     }
-    const bool isNews = !page || !page.value().empty();
-    if (!isNews) {
+    if (page && page.value().empty()) {
         return;
     }
     if (!std::exchange(mIsFresh, true)) {
@@ -145,7 +144,7 @@ void BarcodeGuard::take(const Cancel &cancel, const Result<std::vector<LostCode>
     }
     if (page) {
         mLost.insert(mLost.end(), page.value().begin(), page.value().end());
-    } else if (page.failure().kind == FailureKind::Barcode) {
+    } else {
         mFailure = page.failure();
     }
     Q_EMIT changed();

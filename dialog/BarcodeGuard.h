@@ -82,7 +82,7 @@ public:
     /// The codes that nobody would read, as far as the pages are checked.
     const std::vector<LostCode> &lost() const { return mLost; }
 
-    /// Why pages could not be checked; a page that is damaged is not the guard's business.
+    /// Why pages could not be checked: FailureKind::Barcode, or what the document says of a page.
     const std::optional<Failure> &failure() const { return mFailure; }
 
 Q_SIGNALS:

@@ -104,10 +104,17 @@ bool BarcodeReader::start()
     return mProcess.waitForStarted(kStartTime);
 }
 
-Failure BarcodeReader::broken() const
+Failure BarcodeReader::missing() const
 {
     return {FailureKind::Barcode, mProgram,
             tr("cannot be run, so barcodes are not checked; install label-print once more")};
+}
+
+Failure BarcodeReader::broken() const
+{
+    return {FailureKind::Barcode, mProgram,
+            tr("ended in the middle of a picture, so barcodes are not checked; try once more, or "
+               "check the print with a scanner")};
 }
 
 Result<std::vector<Barcode>> BarcodeReader::find(const QImage &grey, const QString &format,
@@ -117,7 +124,7 @@ Result<std::vector<Barcode>> BarcodeReader::find(const QImage &grey, const QStri
         return std::vector<Barcode>();
     }
     if (!start()) {
-        return broken();
+        return missing();
     }
     mProcess.write(QByteArray::number(grey.width()) + ' ' + QByteArray::number(grey.height()) + ' '
                    + format.toLatin1() + '\n');

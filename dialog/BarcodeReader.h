@@ -61,6 +61,7 @@ public:
 
 private:
     bool start();
+    Failure missing() const;
     Failure broken() const;
 
     QString mProgram;

@@ -10,9 +10,6 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
-#include <algorithm>
-#include <iterator>
-
 namespace dialog {
 
 BatchPrint::BatchPrint(PrintController &controller)
@@ -51,7 +48,8 @@ void BatchPrint::checkScaling(const std::shared_ptr<const DocumentPages> &docume
         fail({FailureKind::Settings, QStringLiteral("--scaling whole-dots"),
               document->pixelSize(0).isEmpty()
                   ? tr("the document has no pixels of its own; choose fit or actual")
-                  : tr("the printer's dots are not known; choose fit or actual")});
+                  : printed ? tr("the printer is not sent dots; choose fit or actual")
+                            : tr("the printer's dots are not known; choose fit or actual")});
     } else if (placeOnDots(*document, 0, printed->sheet, Scaling::WholeDots, printed->form)
                    .dotsOfPixel.isEmpty()) {
         complain({FailureKind::Settings, QStringLiteral("--scaling whole-dots"),
@@ -65,28 +63,36 @@ void BatchPrint::checkCodes(const std::shared_ptr<const DocumentPages> &document
     PrinterSetup &setup = *mController.setup();
     std::optional<PrintedPage> printed = printedPageOf(setup, document);
     if (!printed) {
+        if (strict) {
+            fail({FailureKind::Barcode, QStringLiteral("--strict"),
+                  tr("the printer's dots are not known, so barcodes cannot be checked; leave out "
+                     "--strict or choose another printer")});
+        }
         return;
     }
     PageGuard guard;
     for (const int page : pagesFrom(setup.settings().pages(), document->pageCount(), 0)) {
         printed->page = page;
         const Result<std::vector<LostCode>> lost = guard.lostCodes(*printed);
-        std::vector<Failure> failures;
-        if (lost) {
-            std::transform(lost.value().begin(), lost.value().end(), std::back_inserter(failures),
-                           CodeWarning::failureOf);
-        } else if (lost.failure().kind == FailureKind::Barcode) {
-            failures.push_back(lost.failure());
-        }
-        for (const Failure &failure : failures) {
-            complain(failure);
-            if (strict && !mFailure) {
-                mFailure = failure;
+        if (!lost) {
+            // Whatever it was, the codes of the page are not checked.
+            object({FailureKind::Barcode, lost.failure().what, lost.failure().why}, strict);
+            if (lost.failure().kind == FailureKind::Barcode) {
+                return;
             }
+            continue;
         }
-        if (!lost && lost.failure().kind == FailureKind::Barcode) {
-            return;
+        for (const LostCode &code : lost.value()) {
+            object(CodeWarning::failureOf(code), strict);
         }
+    }
+}
+
+void BatchPrint::object(const Failure &failure, bool strict)
+{
+    complain(failure);
+    if (strict && !mFailure) {
+        mFailure = failure;
     }
 }
 
@@ -94,19 +100,25 @@ ExitCode BatchPrint::run(const Printer &printer, const JobSettings &job,
                          const std::shared_ptr<const DocumentPages> &document, bool strict)
 {
     QEventLoop loop;
-    connect(&mController, &PrintController::setupFailed, &loop, &QEventLoop::quit,
-            Qt::QueuedConnection);
-    connect(&mController, &PrintController::jobFailed, &loop, &QEventLoop::quit,
-            Qt::QueuedConnection);
-    connect(&mController, &PrintController::printed, &loop, &QEventLoop::quit,
-            Qt::QueuedConnection);
+    const auto quit = [&loop] {
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    };
+    connect(&mController, &PrintController::setupFailed, &loop, quit);
+    connect(&mController, &PrintController::jobFailed, &loop, quit);
+    connect(&mController, &PrintController::printed, &loop, [&] {
+        // A warning is no reason to let the printer wait.
+        if (!strict) {
+            checkCodes(document, strict);
+        }
+        quit();
+    });
     connect(&mController, &PrintController::setupReady, &loop, [&] {
         checkScaling(document);
-        if (!mFailure) {
+        if (!mFailure && strict) {
             checkCodes(document, strict);
         }
         if (mFailure) {
-            QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+            quit();
         } else {
             mController.print(document);
         }

@@ -15,8 +15,9 @@ public:
     explicit BatchPrint(PrintController &controller);
 
     /// Runs the application's event loop until the job is handed over or has failed.
-    /// A code of the document that nobody would read is a warning; in `strict` runs it stands in
-    /// the way of the job.
+    /// A code of the document that nobody would read is a warning, once the job is handed over. In
+    /// `strict` runs codes are checked before that, and such a code, or one that cannot be checked,
+    /// stands in the way of the job.
     ExitCode run(const Printer &printer, const JobSettings &job,
                  const std::shared_ptr<const DocumentPages> &document, bool strict = false);
 
@@ -25,6 +26,7 @@ private:
     void fail(const Failure &failure);
     void checkScaling(const std::shared_ptr<const DocumentPages> &document);
     void checkCodes(const std::shared_ptr<const DocumentPages> &document, bool strict);
+    void object(const Failure &failure, bool strict);
 
     PrintController &mController;
     /// The first thing that stands in the way of the job.

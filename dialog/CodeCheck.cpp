@@ -211,10 +211,17 @@ Result<std::vector<bool>> CodeCheck::readable(const PrintedPage &printed,
 Result<bool> CodeCheck::readsFromTheDocument(const PrintedPage &printed, const PageCode &code)
 {
     const PageCodes pages(*printed.document, mReader, mGoOn);
-    const QSize fine = pages.finePixels(printed.page, dotsForPoint(printed));
+    const double dots = dotsForPoint(printed);
+    QSize fine = pages.finePixels(printed.page, dots);
     const QSizeF size = printed.document->pageSize(printed.page);
     if (fine.isEmpty()) {
         return false;
+    }
+    // A code that is too long to be seen so fine at once is seen less so, but not more coarsely
+    // than from the dots.
+    const double most = std::max(dots, mostDotsFor(code.place, code.narrowestBar));
+    if (most < fine.width() / size.width()) {
+        fine = (size * most).toSize().expandedTo(QSize(1, 1));
     }
     const double pixels = fine.width() / size.width();
     const InkTones tones{

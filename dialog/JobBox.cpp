@@ -67,11 +67,11 @@ int JobBox::shownIndex(Scaling scaling) const
     return int(scaling) < mScaling->count() ? int(scaling) : int(Scaling::Fit);
 }
 
-void JobBox::offerWholeDots(bool offered)
+bool JobBox::offerWholeDots(bool offered)
 {
     const int index = int(Scaling::WholeDots);
     if (offered == (mScaling->count() > index)) {
-        return;
+        return false;
     }
     // The wish stays, whatever is shown.
     const QSignalBlocker silent(mScaling);
@@ -80,10 +80,12 @@ void JobBox::offerWholeDots(bool offered)
     } else {
         mScaling->removeItem(index);
     }
-    if (mWishesWholeDots) {
-        mScaling->setCurrentIndex(shownIndex(Scaling::WholeDots));
-        Q_EMIT edited();
+    if (!mWishesWholeDots) {
+        return false;
     }
+    mScaling->setCurrentIndex(shownIndex(Scaling::WholeDots));
+    Q_EMIT edited();
+    return true;
 }
 
 void JobBox::pickScaling(Scaling scaling)

@@ -24,8 +24,8 @@ public:
     void showSettings(const JobSettings &settings);
 
     /// Whether whole dots are to be had. Where they are not, Fit is shown in their place until they
-    /// are again.
-    void offerWholeDots(bool offered);
+    /// are again. True when that changed the scale, and edited() has told of it.
+    bool offerWholeDots(bool offered);
 
     /// As if the user picked it.
     void pickScaling(Scaling scaling);

@@ -144,7 +144,9 @@ Result<std::vector<PageCode>> PageCodes::of(int page, double dotsForPoint) const
     std::vector<PageCode> codes;
     const QSize fine = finePixels(page, dotsForPoint);
     if (fine.isEmpty()) {
-        return codes;
+        // A page without a size is damaged or not there; the document knows which.
+        const Result<QImage> nothing = mDocument.render(page, QSize(1, 1));
+        return nothing ? Result<std::vector<PageCode>>(codes) : nothing.failure();
     }
     if (std::optional<Failure> failure = read(page, fine, codes)) {
         return *failure;

@@ -17,7 +17,7 @@ namespace dialog {
 void PrintDialog::setStrict(bool strict)
 {
     mIsStrict = strict;
-    updatePrintButton();
+    showCodes();
 }
 
 bool PrintDialog::hasCheckedCodes() const
@@ -30,7 +30,10 @@ void PrintDialog::guardCodes()
     PrinterSetup *setup = mController.setup();
     const std::optional<PrintedPage> printed =
         setup ? printedPageOf(*setup, mDocument) : std::optional<PrintedPage>();
-    mJobBox->offerWholeDots(printed && printed->mayHaveWholeDots);
+    if (mJobBox->offerWholeDots(printed && printed->mayHaveWholeDots)) {
+        // The job was edited by that, and has led here once more.
+        return;
+    }
     if (printed) {
         mGuard->check(
             {*printed, pagesFrom(mJob.pages(), mDocument->pageCount(), mPreview->currentPage())});
@@ -54,7 +57,9 @@ void PrintDialog::showCodes()
         mMessages->setStanding(MessageBar::Kind::Warning, text,
                                CodeWarning::actionOf(lost.front().remedy),
                                [this, remedy = lost.front().remedy] { applyRemedy(remedy); });
-    } else if (mGuard->failure()) {
+    } else if (mGuard->failure()
+               && (mIsStrict || mGuard->failure()->kind == FailureKind::Barcode)) {
+        // A page that is damaged is the preview's business, unless it keeps the job waiting.
         mMessages->setStanding(MessageBar::Kind::Warning, mGuard->failure()->text());
     } else {
         mMessages->setStanding(MessageBar::Kind::Information, noteOnWholeDots());
@@ -117,6 +122,11 @@ void PrintDialog::applyRemedy(CodeRemedy remedy)
 
 QString PrintDialog::objectionOfGuard() const
 {
+    PrinterSetup *setup = mController.setup();
+    if (mIsStrict && setup && mDocument && !printedPageOf(*setup, mDocument)) {
+        return tr("The printer's dots are not known, so barcodes cannot be checked; choose another "
+                  "printer (--strict)");
+    }
     const bool isClear = !mGuard->isBusy() && mGuard->lost().empty() && !mGuard->failure();
     return mIsStrict && !isClear
         ? tr("Nothing is printed until all barcodes can be read (--strict)")

@@ -13,6 +13,9 @@ constexpr double kPixelsOfBar = 6;
 constexpr int kMostPixelsOfDot = 4;
 /// The longest side of what a scanner takes in at once, in pixels.
 constexpr int kLongestSide = 6000;
+/// The paper around a code: so many of its bars, and some dots more.
+constexpr int kQuietBars = 10;
+constexpr int kQuietDots = 4;
 /// The pixels of the largest picture; read-barcodes takes some more.
 constexpr double kMostPixels = 48e6;
 
@@ -145,7 +148,7 @@ InkTones tonesOf(const DocumentPages &document, int page, const QSize &pixels,
 
 std::vector<ScannerLook> scannerLooks(double bars)
 {
-    const int quiet = int(std::ceil(10 * bars)) + 4;
+    const int quiet = int(std::ceil(kQuietBars * bars)) + kQuietDots;
     const int narrow = int(std::ceil(3 * bars)) + 2;
     std::vector<int> blurs{1};
     if (bars >= 1.5) {
@@ -161,6 +164,13 @@ std::vector<ScannerLook> scannerLooks(double bars)
         }
     }
     return looks;
+}
+
+double mostDotsFor(const QRectF &place, double bars)
+{
+    // All sides are rounded up.
+    const double dots = kLongestSide - 2 * (kQuietDots + 2);
+    return dots / (std::max(place.width(), place.height()) + 2 * kQuietBars * bars);
 }
 
 Result<QImage> scannerView(const InkTones &tones, const QRectF &place, double bars,

@@ -49,7 +49,12 @@ struct ScannerLook
 /// reads it; the sharpest first.
 std::vector<ScannerLook> scannerLooks(double bars);
 
-/// What a scanner sees of the code at `place`, in dots; `bars` as above. Format_Grayscale8.
+/// How many dots the unit of `place` and `bars` can have at most, so that a scanner takes in the
+/// code at once.
+double mostDotsFor(const QRectF &place, double bars);
+
+/// What a scanner sees of the code at `place`, in dots; `bars` as above. Format_Grayscale8. A code
+/// that it cannot take in at once is white paper.
 Result<QImage> scannerView(const InkTones &tones, const QRectF &place, double bars,
                            const ScannerLook &look);
 

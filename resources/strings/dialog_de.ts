@@ -34,6 +34,10 @@
         <source>cannot be run, so barcodes are not checked; install label-print once more</source>
         <translation>lässt sich nicht starten, deshalb werden Barcodes nicht geprüft; installieren Sie label-print noch einmal</translation>
     </message>
+    <message>
+        <source>ended in the middle of a picture, so barcodes are not checked; try once more, or check the print with a scanner</source>
+        <translation>endete mitten in einem Bild, deshalb werden Barcodes nicht geprüft; versuchen Sie es noch einmal, oder prüfen Sie den Druck mit einem Scanner</translation>
+    </message>
 </context>
 <context>
     <name>dialog::BatchPrint</name>
@@ -48,6 +52,14 @@
     <message>
         <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
         <translation>das Bild hat mehr Pixel als das Etikett Punkte; es wird an das Etikett angepasst</translation>
+    </message>
+    <message>
+        <source>the printer is not sent dots; choose fit or actual</source>
+        <translation>der Drucker bekommt keine Punkte; wählen Sie fit oder actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known, so barcodes cannot be checked; leave out --strict or choose another printer</source>
+        <translation>die Punkte des Druckers sind nicht bekannt, deshalb können Barcodes nicht geprüft werden; lassen Sie --strict weg oder wählen Sie einen anderen Drucker</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1018,10 @@
     <message>
         <source>Nothing is printed until all barcodes can be read (--strict)</source>
         <translation>Es wird nichts gedruckt, bis alle Barcodes lesbar sind (--strict)</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s dots are not known, so barcodes cannot be checked; choose another printer (--strict)</source>
+        <translation>Die Punkte des Druckers sind nicht bekannt, deshalb können Barcodes nicht geprüft werden; wählen Sie einen anderen Drucker (--strict)</translation>
     </message>
 </context>
 <context>

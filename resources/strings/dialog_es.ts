@@ -34,6 +34,10 @@
         <source>cannot be run, so barcodes are not checked; install label-print once more</source>
         <translation>no se puede ejecutar, por lo que no se comprueban los códigos de barras; vuelva a instalar label-print</translation>
     </message>
+    <message>
+        <source>ended in the middle of a picture, so barcodes are not checked; try once more, or check the print with a scanner</source>
+        <translation>terminó en medio de una imagen, por lo que no se comprueban los códigos de barras; inténtelo de nuevo o compruebe la impresión con un lector</translation>
+    </message>
 </context>
 <context>
     <name>dialog::BatchPrint</name>
@@ -48,6 +52,14 @@
     <message>
         <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
         <translation>la imagen tiene más píxeles que puntos la etiqueta; se ajusta a la etiqueta</translation>
+    </message>
+    <message>
+        <source>the printer is not sent dots; choose fit or actual</source>
+        <translation>la impresora no recibe puntos; elija fit o actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known, so barcodes cannot be checked; leave out --strict or choose another printer</source>
+        <translation>no se conocen los puntos de la impresora, por lo que no se pueden comprobar los códigos de barras; omita --strict o elija otra impresora</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1018,10 @@
     <message>
         <source>Nothing is printed until all barcodes can be read (--strict)</source>
         <translation>No se imprime nada hasta que se puedan leer todos los códigos de barras (--strict)</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s dots are not known, so barcodes cannot be checked; choose another printer (--strict)</source>
+        <translation>No se conocen los puntos de la impresora, por lo que no se pueden comprobar los códigos de barras; elija otra impresora (--strict)</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,10 @@
         <source>cannot be run, so barcodes are not checked; install label-print once more</source>
         <translation>ne peut pas être lancé, les codes-barres ne sont donc pas vérifiés ; réinstallez label-print</translation>
     </message>
+    <message>
+        <source>ended in the middle of a picture, so barcodes are not checked; try once more, or check the print with a scanner</source>
+        <translation>s’est arrêté au milieu d’une image, les codes-barres ne sont donc pas vérifiés&#xa0;; réessayez, ou vérifiez l’impression avec un lecteur</translation>
+    </message>
 </context>
 <context>
     <name>dialog::BatchPrint</name>
@@ -48,6 +52,14 @@
     <message>
         <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
         <translation>l’image a plus de pixels que l’étiquette n’a de points&#xa0;; elle est ajustée à l’étiquette</translation>
+    </message>
+    <message>
+        <source>the printer is not sent dots; choose fit or actual</source>
+        <translation>l’imprimante ne reçoit pas de points&#xa0;; choisissez fit ou actual</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known, so barcodes cannot be checked; leave out --strict or choose another printer</source>
+        <translation>les points de l’imprimante ne sont pas connus, les codes-barres ne peuvent donc pas être vérifiés&#xa0;; omettez --strict ou choisissez une autre imprimante</translation>
     </message>
 </context>
 <context>
@@ -136,7 +148,7 @@
     </message>
     <message>
         <source>is printed in red, which scanners do not see; choose Monochrome, and Binary as the halftone</source>
-        <translation>est imprimé en rouge, que les lecteurs ne voient pas ; choisissez « Monochrome », et « Seuil » comme tramage</translation>
+        <translation>est imprimé en rouge, que les lecteurs ne voient pas&#xa0;; choisissez «&#xa0;Monochrome&#xa0;», et «&#xa0;Seuil&#xa0;» comme tramage</translation>
     </message>
     <message>
         <source>Monochrome and Binary</source>
@@ -1006,6 +1018,10 @@
     <message>
         <source>Nothing is printed until all barcodes can be read (--strict)</source>
         <translation>Rien n’est imprimé tant que tous les codes-barres ne sont pas lisibles (--strict)</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s dots are not known, so barcodes cannot be checked; choose another printer (--strict)</source>
+        <translation>Les points de l’imprimante ne sont pas connus, les codes-barres ne peuvent donc pas être vérifiés&#xa0;; choisissez une autre imprimante (--strict)</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,10 @@
         <source>cannot be run, so barcodes are not checked; install label-print once more</source>
         <translation>を実行できないため、バーコードは確認されません。label-print をもう一度インストールしてください</translation>
     </message>
+    <message>
+        <source>ended in the middle of a picture, so barcodes are not checked; try once more, or check the print with a scanner</source>
+        <translation>が画像の途中で終了したため、バーコードは確認されません。もう一度試すか、印刷物をスキャナーで確認してください</translation>
+    </message>
 </context>
 <context>
     <name>dialog::BatchPrint</name>
@@ -48,6 +52,14 @@
     <message>
         <source>the picture has more pixels than the label has dots; it is fitted to the label</source>
         <translation>画像の画素がラベルのドットより多いため、ラベルに合わせます</translation>
+    </message>
+    <message>
+        <source>the printer is not sent dots; choose fit or actual</source>
+        <translation>このプリンターにはドットが送られません。fit または actual を選んでください</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s dots are not known, so barcodes cannot be checked; leave out --strict or choose another printer</source>
+        <translation>プリンターのドットがわからないため、バーコードを確認できません。--strict を外すか、別のプリンターを選んでください</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1015,10 @@
     <message>
         <source>Nothing is printed until all barcodes can be read (--strict)</source>
         <translation>すべてのバーコードが読み取れるまで印刷しません (--strict)</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s dots are not known, so barcodes cannot be checked; choose another printer (--strict)</source>
+        <translation>プリンターのドットがわからないため、バーコードを確認できません。別のプリンターを選んでください (--strict)</translation>
     </message>
 </context>
 <context>

@@ -3,8 +3,10 @@
 #include "dialog/BarWidth.h"
 #include "dialog/BarcodeReader.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
@@ -205,6 +207,25 @@ TEST(BarcodeReader, AProgramThatIsNotThereIsASentence)
 TEST(BarcodeReader, AProgramThatEndsTooSoonIsASentence)
 {
     const auto codes = BarcodeReader(QStringLiteral("/bin/true")).find(paper({9, 9}));
+    ASSERT_FALSE(codes);
+    EXPECT_EQ(codes.failure().kind, dialog::FailureKind::Barcode);
+    EXPECT_EQ(codes.failure().text(),
+              QStringLiteral("/bin/true: ended in the middle of a picture, so barcodes are not "
+                             "checked; try once more, or check the print with a scanner"));
+}
+
+TEST(BarcodeReader, APictureThatCouldNotBeSearchedIsNotOneWithoutCodes)
+{
+    // Files enough to start the program, but not for a pipe to a child.
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("read-barcodes"));
+    QFile script(path);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nulimit -n 4\nexec '"
+                 + QFile::encodeName(BarcodeReader::installedProgram()) + "'\n");
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    script.close();
+    const auto codes = BarcodeReader(path).find(paper({900, 900}));
     ASSERT_FALSE(codes);
     EXPECT_EQ(codes.failure().kind, dialog::FailureKind::Barcode);
 }

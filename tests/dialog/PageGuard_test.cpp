@@ -259,6 +259,20 @@ TEST_F(PageGuard, ALongLabelIsReadToItsEnd)
         testing::UnorderedElementsAre("QR Code first", "Code 128 MIDDLE", "Data Matrix last"));
 }
 
+TEST_F(PageGuard, ACodeTooLongForOneFineViewIsNotForgotten)
+{
+    // 2500 dots; the fine view of the document would have three times as many.
+    const QSize pixels(2700, 400);
+    PrintedPage printed = onLabel(
+        opened(CodeLabel(pixels)
+                   .with({100, 60}, "Code 128", "A LONG CODE OF MANY LETTERS AND WIDE BARS", 5)
+                   .png()),
+        pixels);
+    EXPECT_TRUE(lostOn(printed).empty());
+    washOut(printed);
+    EXPECT_EQ(lostOn(printed).size(), 1U);
+}
+
 TEST_F(PageGuard, ALabelWithoutCodesLosesNone)
 {
     PrintedPage printed = onLabel(opened(pdfOfPages(1)));
@@ -275,12 +289,14 @@ TEST_F(PageGuard, AskedNotToGoOnItStops)
     EXPECT_TRUE(lostOn(printed).empty());
 }
 
-TEST_F(PageGuard, APageThatIsNotThereHasNoCodes)
+TEST_F(PageGuard, APageThatIsNotThereIsTheFailureOfTheDocument)
 {
     PrintedPage printed = label(emptyLabel());
     printed.page = 7;
     const auto lost = guard.lostCodes(printed);
-    EXPECT_TRUE(lost && lost.value().empty());
+    ASSERT_FALSE(lost);
+    EXPECT_EQ(lost.failure().kind, dialog::FailureKind::Document);
+    EXPECT_EQ(lost.failure().why, QStringLiteral("has no page 8"));
 }
 
 } // namespace

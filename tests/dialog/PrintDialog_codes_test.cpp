@@ -126,6 +126,57 @@ TEST_F(PrintDialogCodes, OfAPrinterWithoutDotsAreNotChecked)
     EXPECT_EQ(message(), QString());
 }
 
+TEST_F(PrintDialogCodes, OfAPrinterWithoutDotsAreNotPrintedInAStrictWindow)
+{
+    makeController(testPpd("no-panel-options.ppd"));
+    showWindow();
+    window->setStrict(true);
+    window->setDocument(opened(scattered().png()));
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(find<QPushButton>("print")->isEnabled());
+    EXPECT_EQ(find<QPushButton>("print")->toolTip(),
+              QStringLiteral("The printer's dots are not known, so barcodes cannot be checked; "
+                             "choose another printer (--strict)"));
+    window->setStrict(false);
+    EXPECT_TRUE(find<QPushButton>("print")->isEnabled());
+}
+
+TEST_F(PrintDialogCodes, OfADamagedPageKeepPrintWaitingInAStrictWindowAlone)
+{
+    makeController();
+    showWindow();
+    window->setDocument(
+        dialog::DocumentPages::open(testDocument(QStringLiteral("damaged-page.pdf"))).value());
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(message(), QString());
+    EXPECT_TRUE(find<QPushButton>("print")->isEnabled());
+    window->setStrict(true);
+    EXPECT_FALSE(find<QPushButton>("print")->isEnabled());
+    EXPECT_EQ(message(),
+              testDocument(QStringLiteral("damaged-page.pdf"))
+                  + QStringLiteral(": page 2 is damaged and cannot be shown"));
+}
+
+TEST_F(PrintDialogCodes, AreCheckedInTheScaleThatComesBackWithAPicture)
+{
+    const QByteArray odd =
+        CodeLabel(QSize(530, 400)).with({0, 50}, "Code 128", "ODD-DOTS-0123456789ABCD", 1).png();
+    makeController();
+    showWindow();
+    window->setDocument(opened(odd));
+    choose("CvHalftonePattern", "ErrorDiffusion");
+    ASSERT_TRUE(settles());
+    ASSERT_NE(message(), QString()) << "fitted, its bars have grey edges";
+    pick("scaling", 2);
+    ASSERT_TRUE(settles());
+    ASSERT_EQ(message(), QString());
+    window->setDocument(opened(pdfOfPages(1)));
+    ASSERT_TRUE(settles());
+    window->setDocument(opened(odd));
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(message(), QString());
+}
+
 TEST_F(PrintDialogCodes, WholeDotsAreOfferedForAPictureAlone)
 {
     show(CodeLabel(QSize(100, 200)));

@@ -23,6 +23,7 @@ protected:
         environment.insert(QStringLiteral("HOME"), folder.path());
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
         program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(channels);
         program.start(QStringLiteral(PROGRAM), arguments);
         EXPECT_TRUE(program.waitForFinished(60000)) << program.errorString().toStdString();
         said = program.readAllStandardOutput().toStdString();
@@ -40,6 +41,8 @@ protected:
 
     /// Made once: a PDF holds the time at which it was made.
     const QByteArray document = pdfOfPages(2);
+    /// Merged: everything is `said`, in its order.
+    QProcess::ProcessChannelMode channels = QProcess::SeparateChannels;
     std::string said;
     std::string complained;
 };

@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 namespace {
@@ -58,6 +59,44 @@ TEST_F(ProgramCodes, KeepAStrictRunFromPrinting)
               0)
         << complained;
     EXPECT_EQ(complained, "");
+}
+
+TEST_F(ProgramCodes, DoNotLetThePrinterWaitForAWarning)
+{
+    channels = QProcess::MergedChannels;
+    EXPECT_EQ(print({QStringLiteral("--output"), out()}), 0);
+    EXPECT_LT(said.find("job-0001"), said.find(warning)) << said;
+    EXPECT_THAT(said, EndsWith(warning));
+}
+
+TEST_F(ProgramCodes, OfAPrinterWithoutDotsAreNotPrintedInAStrictRun)
+{
+    const QStringList other{QStringLiteral("--ppd"),
+                            QStringLiteral(TEST_DATA_DIR "/ppd/no-panel-options.ppd")};
+    EXPECT_EQ(run(toFolder(other + QStringList{QStringLiteral("--strict")})), 6);
+    EXPECT_EQ(complained,
+              "label-print: --strict: the printer's dots are not known, so barcodes cannot be "
+              "checked; leave out --strict or choose another printer\n");
+    EXPECT_FALSE(QFileInfo::exists(out()));
+    EXPECT_EQ(run(toFolder(other)), 0) << complained;
+    EXPECT_EQ(complained, "");
+}
+
+TEST_F(ProgramCodes, OfADamagedPageKeepAStrictRunFromPrinting)
+{
+    CupsServerFixture cups;
+    cups.addQueue(QStringLiteral("Lab"));
+    const QStringList damaged{testDocument(QStringLiteral("damaged-page.pdf")),
+                              QStringLiteral("--no-dialog"), QStringLiteral("--printer"),
+                              QStringLiteral("Lab")};
+    EXPECT_EQ(run(damaged + QStringList{QStringLiteral("--strict")}, cups.address()), 6);
+    const std::string sentence =
+        "label-print: " + damaged[0].toStdString() + ": page 2 is damaged and cannot be shown\n";
+    EXPECT_EQ(complained, sentence);
+    EXPECT_EQ(said, "");
+    EXPECT_EQ(run(damaged, cups.address()), 0) << "this queue gets the document itself";
+    EXPECT_EQ(complained, sentence);
+    EXPECT_THAT(said, HasSubstr("as job 1"));
 }
 
 TEST_F(ProgramCodes, LeaveNoJobOnTheServerOfAStrictRun)
@@ -111,6 +150,32 @@ TEST_F(ProgramCodes, WholeDotsOfADocumentWithoutPixelsAreRefused)
               "label-print: --scaling whole-dots: the document has no pixels of its own; choose "
               "fit or actual\n");
     EXPECT_FALSE(QFileInfo::exists(out()));
+}
+
+TEST_F(ProgramCodes, WholeDotsOfAPrinterThatIsNotSentDotsAreRefused)
+{
+    CupsServerFixture cups;
+    cups.addQueue(QStringLiteral("Lab"));
+    EXPECT_EQ(
+        run({scattered(), QStringLiteral("--no-dialog"), QStringLiteral("--printer"),
+             QStringLiteral("Lab"), QStringLiteral("--scaling"), QStringLiteral("whole-dots")},
+            cups.address()),
+        4);
+    EXPECT_EQ(complained,
+              "label-print: --scaling whole-dots: the printer is not sent dots; choose fit or "
+              "actual\n");
+}
+
+TEST_F(ProgramCodes, WholeDotsOfAPrinterWithoutDotsAreRefused)
+{
+    EXPECT_EQ(
+        run({scattered(), QStringLiteral("--no-dialog"), QStringLiteral("--output"), out(),
+             QStringLiteral("--ppd"), QStringLiteral(TEST_DATA_DIR "/ppd/no-panel-options.ppd"),
+             QStringLiteral("--scaling"), QStringLiteral("whole-dots")}),
+        4);
+    EXPECT_EQ(complained,
+              "label-print: --scaling whole-dots: the printer's dots are not known; choose fit or "
+              "actual\n");
 }
 
 TEST_F(ProgramCodes, APictureTooLargeForWholeDotsIsFittedWithAWord)
