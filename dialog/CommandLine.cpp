@@ -66,7 +66,8 @@ void CommandLineReader::addOptions(QCommandLineParser &parser)
          tr("file")},
         {QStringLiteral("no-dialog"), tr("Print at once, without showing the dialog.")},
         {QStringLiteral("strict"),
-         tr("Print nothing while a barcode of the document would not be readable.")},
+         tr("Print nothing while a barcode of the document would not be readable or cannot be "
+            "checked.")},
         {QStringLiteral("list-printers"), tr("List the printers and stop.")},
         {QStringLiteral("screenshot"), tr("Save a picture of the dialog in <file> and stop."),
          tr("file")},
@@ -85,7 +86,7 @@ QString CommandLineReader::exitCodesText()
               "  3  the document cannot be read\n"
               "  4  the printer, its PPD or a setting for it cannot be used\n"
               "  5  the job could not be handed over\n"
-              "  6  a barcode would not be readable (--strict)\n");
+              "  6  a barcode would not be readable, or cannot be checked (--strict)\n");
 }
 
 std::variant<CommandLine, QString, Failure> CommandLineReader::read(const QStringList &arguments)

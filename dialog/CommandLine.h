@@ -26,7 +26,7 @@ enum class ExitCode
     Document = 3, ///< the document cannot be read
     Printer = 4, ///< the printer, its PPD or a setting for it cannot be used
     Job = 5, ///< the job could not be handed over
-    Barcode = 6 ///< --strict, and a barcode would not be readable
+    Barcode = 6 ///< --strict, and a barcode would not be readable, or cannot be checked
 };
 
 ExitCode exitCodeOf(FailureKind kind);
@@ -46,7 +46,7 @@ struct CommandLine
     std::optional<PageRanges> pages;
     std::optional<Scaling> scaling;
     bool noDialog = false;
-    /// Nothing is printed when a barcode would not be readable.
+    /// Nothing is printed when a barcode would not be readable, or cannot be checked.
     bool strict = false;
     bool listPrinters = false;
 };

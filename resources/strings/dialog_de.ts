@@ -305,8 +305,8 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>Print nothing while a barcode of the document would not be readable.</source>
-        <translation>Nichts drucken, solange ein Barcode des Dokuments nicht lesbar wäre.</translation>
+        <source>Print nothing while a barcode of the document would not be readable or cannot be checked.</source>
+        <translation>Nichts drucken, solange ein Barcode des Dokuments nicht lesbar wäre oder nicht geprüft werden kann.</translation>
     </message>
     <message>
         <source>Exit codes:
@@ -316,7 +316,7 @@
   3  the document cannot be read
   4  the printer, its PPD or a setting for it cannot be used
   5  the job could not be handed over
-  6  a barcode would not be readable (--strict)
+  6  a barcode would not be readable, or cannot be checked (--strict)
 </source>
         <translation>Rückgabewerte:
   0  gedruckt oder anderes Verlangtes erledigt
@@ -325,7 +325,7 @@
   3  das Dokument ist nicht lesbar
   4  der Drucker, seine PPD oder eine Einstellung dafür ist nicht verwendbar
   5  der Auftrag konnte nicht übergeben werden
-  6  ein Barcode wäre nicht lesbar (--strict)
+  6  ein Barcode wäre nicht lesbar oder kann nicht geprüft werden (--strict)
 </translation>
     </message>
     <message>

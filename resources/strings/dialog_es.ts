@@ -305,8 +305,8 @@
         <translation>modo</translation>
     </message>
     <message>
-        <source>Print nothing while a barcode of the document would not be readable.</source>
-        <translation>No imprimir nada mientras un código de barras del documento no fuera legible.</translation>
+        <source>Print nothing while a barcode of the document would not be readable or cannot be checked.</source>
+        <translation>No imprimir nada mientras un código de barras del documento no fuera legible o no se pueda comprobar.</translation>
     </message>
     <message>
         <source>Exit codes:
@@ -316,7 +316,7 @@
   3  the document cannot be read
   4  the printer, its PPD or a setting for it cannot be used
   5  the job could not be handed over
-  6  a barcode would not be readable (--strict)
+  6  a barcode would not be readable, or cannot be checked (--strict)
 </source>
         <translation>Códigos de salida:
   0  se imprimió o se hizo lo demás que se pidió
@@ -325,7 +325,7 @@
   3  el documento no se puede leer
   4  la impresora, su PPD o uno de sus ajustes no se puede usar
   5  el trabajo no se pudo entregar
-  6  un código de barras no sería legible (--strict)
+  6  un código de barras no sería legible o no se puede comprobar (--strict)
 </translation>
     </message>
     <message>

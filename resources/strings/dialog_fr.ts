@@ -305,8 +305,8 @@
         <translation>façon</translation>
     </message>
     <message>
-        <source>Print nothing while a barcode of the document would not be readable.</source>
-        <translation>Ne rien imprimer tant qu’un code-barres du document ne serait pas lisible.</translation>
+        <source>Print nothing while a barcode of the document would not be readable or cannot be checked.</source>
+        <translation>Ne rien imprimer tant qu’un code-barres du document ne serait pas lisible ou ne peut pas être vérifié.</translation>
     </message>
     <message>
         <source>Exit codes:
@@ -316,7 +316,7 @@
   3  the document cannot be read
   4  the printer, its PPD or a setting for it cannot be used
   5  the job could not be handed over
-  6  a barcode would not be readable (--strict)
+  6  a barcode would not be readable, or cannot be checked (--strict)
 </source>
         <translation>Codes de sortie&#xa0;:
   0  imprimé, ou autre demande exécutée
@@ -325,7 +325,7 @@
   3  le document est illisible
   4  l’imprimante, son PPD ou l’un de ses réglages est inutilisable
   5  le travail n’a pas pu être transmis
-  6  un code-barres ne serait pas lisible (--strict)
+  6  un code-barres ne serait pas lisible, ou ne peut pas être vérifié (--strict)
 </translation>
     </message>
     <message>

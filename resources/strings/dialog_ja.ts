@@ -305,8 +305,8 @@
         <translation>方法</translation>
     </message>
     <message>
-        <source>Print nothing while a barcode of the document would not be readable.</source>
-        <translation>文書のバーコードが読み取れない場合は何も印刷しません。</translation>
+        <source>Print nothing while a barcode of the document would not be readable or cannot be checked.</source>
+        <translation>文書のバーコードが読み取れない場合や確認できない場合は何も印刷しません。</translation>
     </message>
     <message>
         <source>Exit codes:
@@ -316,7 +316,7 @@
   3  the document cannot be read
   4  the printer, its PPD or a setting for it cannot be used
   5  the job could not be handed over
-  6  a barcode would not be readable (--strict)
+  6  a barcode would not be readable, or cannot be checked (--strict)
 </source>
         <translation>終了コード:
   0  印刷した、またはほかの指定された処理を行った
@@ -325,7 +325,7 @@
   3  文書を読み取れない
   4  プリンター、その PPD、または設定が使えない
   5  ジョブを渡せなかった
-  6  バーコードが読み取れない (--strict)
+  6  バーコードが読み取れない、または確認できない (--strict)
 </translation>
     </message>
     <message>
