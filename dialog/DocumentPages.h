@@ -71,6 +71,9 @@ public:
     /// own (PDF, SVG), and where there is no such page.
     QSize pixelSize(int page) const;
 
+    /// Whether the pages are pictures of pixels. At once, whatever is being rendered.
+    bool hasPixels() const { return mKind != DocumentKind::Pdf && mKind != DocumentKind::Svg; }
+
     /// Page `page`, counted from 0, on white, stretched to `pixels`.
     Result<QImage> render(int page, const QSize &pixels) const;
 

@@ -3,6 +3,7 @@
 
 #include "dialog/JobSettings.h"
 #include "dialog/PpdRaster.h"
+#include "dialog/PrintedPages.h"
 
 #include <utility>
 
@@ -15,12 +16,8 @@ std::optional<DotPages> DotPages::of(std::shared_ptr<const DocumentPages> docume
     if (!form) {
         return {};
     }
-    DotPages dots{std::move(document), {}, sheet, settings.scaling(), *form};
-    for (int page = 0; page < dots.document->pageCount(); ++page) {
-        if (settings.pages().contains(quint32(page) + 1)) {
-            dots.pages.push_back(page);
-        }
-    }
+    const std::vector<int> pages = pagesFrom(settings.pages(), document->pageCount(), 0);
+    const DotPages dots{std::move(document), pages, sheet, settings.scaling(), *form};
     return dots.pages.empty() ? std::nullopt : std::optional(dots);
 }
 

@@ -80,9 +80,9 @@ std::optional<Failure> DotPictures::writeInto(const QString &folder,
     int done = 0;
     for (const int page : mPages.pages) {
         const SheetPixels pixels = mPages.pixels(page);
-        if (mPages.form.dots.height() > kMostRows) {
+        if (pixels.isTooLarge() || mPages.form.dots.height() > kMostRows) {
             return Failure{FailureKind::Document, mPages.document->path(),
-                           tr("page %1 has too many rows for a PNG file; choose a shorter label or "
+                           tr("page %1 has too many dots for a PNG file; choose a shorter label or "
                               "a lower resolution")
                                .arg(page + 1)};
         }

@@ -137,11 +137,13 @@ QSizeF ImagePages::pageSize(int page) const
 QImage ImagePages::smaller(const QImage &image, const QSize &size) const
 {
     const QMutexLocker lock(&mMutex);
-    if (mSmaller.size() != size || mSmallerOf != image.cacheKey()) {
-        mSmaller = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        mSmallerOf = image.cacheKey();
+    const SmallerPicture key{image.cacheKey(), size};
+    if (const QImage *kept = mSmaller.find(key)) {
+        return *kept;
     }
-    return mSmaller;
+    const QImage made = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    mSmaller.put(key, made);
+    return made;
 }
 
 QSize ImagePages::pixelSize(int page) const
@@ -157,7 +159,8 @@ bool ImagePages::paint(int page, QPainter &painter, const QRectF &target, const 
     }
     const QSize wished = target.size().toSize();
     // Painting makes pictures smaller by leaving pixels out; fine lines would be lost.
-    if (painter.paintEngine()->type() == QPaintEngine::Raster && wished.width() < image.width()) {
+    const bool shrinks = wished.width() < image.width() || wished.height() < image.height();
+    if (painter.paintEngine()->type() == QPaintEngine::Raster && shrinks) {
         image = smaller(image, wished);
     }
     // Pixels that become whole numbers of pixels keep their edges: the bars of a code stay as wide

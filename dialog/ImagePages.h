@@ -3,6 +3,7 @@
 
 #include "dialog/DocumentKind.h"
 #include "dialog/Failure.h"
+#include "dialog/LastTwo.h"
 #include "dialog/PageSource.h"
 
 #include <QByteArray>
@@ -55,6 +56,14 @@ private:
         QString why;
     };
 
+    struct SmallerPicture
+    {
+        qint64 of; ///< QImage::cacheKey()
+        QSize size;
+
+        bool operator==(const SmallerPicture &other) const = default;
+    };
+
     ImagePages(DocumentKind kind, const QByteArray &content);
     static QString damaged();
     Decoded decode(int page) const;
@@ -69,8 +78,7 @@ private:
     /// The picture that was shown last: a window that changes its size asks for it often.
     mutable Decoded mLast;
     /// The same made smaller, for the parts of a page that are painted one after the other.
-    mutable QImage mSmaller;
-    mutable qint64 mSmallerOf = 0;
+    mutable LastTwo<SmallerPicture, QImage> mSmaller;
 };
 
 } // namespace dialog

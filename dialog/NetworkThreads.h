@@ -5,7 +5,8 @@ class QThreadPool;
 
 namespace dialog {
 
-/// The threads for work that waits for the network, apart from those that compute. They end with
+/// The threads for jobs and for work that waits for the network, apart from those that compute for
+/// the screen. They end with
 /// the application, which waits for them: such work is to be told to stop before. The interface
 /// thread only.
 QThreadPool *networkThreads();

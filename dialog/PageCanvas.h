@@ -31,7 +31,6 @@ public:
 
     /// Shows the dots, or the sentence, of `picture`, until it is asked for another page.
     void setDots(const DotPicture &picture);
-    void clearDots() { setDots({}); }
 
     /// Whether what is to be seen of the page itself is there, be it a picture or the sentence
     /// about a damaged page.

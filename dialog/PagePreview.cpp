@@ -212,9 +212,8 @@ bool PagePreview::turnByKey(int key)
 void PagePreview::keyPressEvent(QKeyEvent *event)
 {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (plain && event->key() == Qt::Key_Escape && mBar->showsProgress()) {
-        setDotsOn(false);
-    } else if (!plain || !turnByKey(event->key())) {
+    const bool stops = plain && event->key() == Qt::Key_Escape && stopDots();
+    if (!stops && (!plain || !turnByKey(event->key()))) {
         QWidget::keyPressEvent(event);
     }
 }

@@ -57,6 +57,10 @@ public:
 
     void setPlates(Plates plates);
 
+    /// Stops the dots that are being made; false when none are, or so soon that no progress is
+    /// shown yet.
+    bool stopDots();
+
     /// Whether the current page is on screen; pages are rendered in the background.
     bool isUpToDate() const;
 

@@ -134,6 +134,15 @@ void PagePreview::dotsProgressed(int percent)
     }
 }
 
+bool PagePreview::stopDots()
+{
+    if (!mBar->showsProgress()) {
+        return false;
+    }
+    setDotsOn(false);
+    return true;
+}
+
 void PagePreview::setDotsOn(bool on)
 {
     mDotsOn = on;
@@ -193,10 +202,12 @@ void PagePreview::setZoomAt(int zoom, const QPointF &global)
     const QRectF fitted = mCanvas->dotRectangle();
     const QPointF place = mCanvas->mapFromGlobal(global);
     refresh();
+    if (zoom != kFitted) {
+        mLarge->setZoom(zoom, QPointF());
+    }
     if (isLarge() && !fitted.isEmpty()) {
         const QPointF dot((place.x() - fitted.x()) / fitted.width() * mForm->dots.width(),
                           (place.y() - fitted.y()) / fitted.height() * mForm->dots.height());
-        mLarge->setZoom(zoom, QPointF());
         mLarge->showAt(dot, mLarge->viewport()->mapFromGlobal(global));
     }
 }

@@ -31,9 +31,9 @@ public:
     virtual QSize pixelSize(int page) const;
 
     /// Paints page `page` so that it fills `target`; what is transparent is left alone. Edges are
-    /// as hard or smooth as the painter's hint Antialiasing asks for. No more
-    /// than `part` of the target needs to be painted, more may be. False when the page is damaged;
-    /// something of it may then have been painted.
+    /// as hard or smooth as the painter's hint Antialiasing asks for. No more than `part` of the
+    /// target needs to be painted, more may be. False when the page is damaged; something of it may
+    /// then have been painted.
     virtual bool paint(int page, QPainter &painter, const QRectF &target,
                        const QRectF &part) const = 0;
 };

@@ -10,6 +10,7 @@ PdfPages::PdfPages(const QByteArray &content)
     mContent.setData(content);
     mContent.open(QIODevice::ReadOnly);
     mDocument.load(&mContent);
+    mPageCount = mDocument.pageCount();
 }
 
 Result<std::shared_ptr<const PageSource>> PdfPages::open(const QByteArray &content,
@@ -35,52 +36,48 @@ QString PdfPages::loadError() const
     default:
         return tr("is a damaged PDF document; save or export it once more");
     }
-    return mDocument.pageCount() > 0 ? QString() : tr("has no pages; choose another document");
-}
-
-int PdfPages::pageCount() const
-{
-    const QMutexLocker lock(&mMutex);
-    return mDocument.pageCount();
+    return mPageCount > 0 ? QString() : tr("has no pages; choose another document");
 }
 
 QSizeF PdfPages::pageSize(int page) const
 {
+    const QMutexLocker sizes(&mSizesMutex);
+    const auto known = mSizes.constFind(page);
+    if (known != mSizes.constEnd()) {
+        return *known;
+    }
     const QMutexLocker lock(&mMutex);
-    return mDocument.pagePointSize(page).expandedTo(QSizeF(0, 0));
+    return *mSizes.insert(page, mDocument.pagePointSize(page).expandedTo(QSizeF(0, 0)));
+}
+
+QImage PdfPages::whole(const WholePage &key) const
+{
+    QPdfDocumentRenderOptions options;
+    using Flag = QPdfDocumentRenderOptions::RenderFlag;
+    options.setRenderFlags(key.hardEdges ? Flag::Annotations | Flag::TextAliased | Flag::PathAliased
+                                         : Flag::Annotations);
+    return mDocument.render(key.page, key.size, options);
 }
 
 // Qt's own rendering of a part is off by a pixel here and there, so parts are cut from the whole.
-QImage PdfPages::whole(int page, const QSize &size, bool inParts, bool hardEdges) const
-{
-    if (mLastPage == page && mLast.size() == size && mLastIsHard == hardEdges) {
-        return mLast;
-    }
-    QPdfDocumentRenderOptions options;
-    using Flag = QPdfDocumentRenderOptions::RenderFlag;
-    options.setRenderFlags(hardEdges ? Flag::Annotations | Flag::TextAliased | Flag::PathAliased
-                                     : Flag::Annotations);
-    const QImage image = mDocument.render(page, size, options);
-    mLast = inParts ? image : QImage();
-    mLastPage = page;
-    mLastIsHard = hardEdges;
-    return image;
-}
-
 bool PdfPages::paint(int page, QPainter &painter, const QRectF &target, const QRectF &part) const
 {
     const QMutexLocker lock(&mMutex);
     const QSize size = target.size().toSize();
     const QRect wanted = part.translated(-target.topLeft()).toAlignedRect() & QRect(QPoint(), size);
-    const QImage image =
-        whole(page, size, wanted.size() != size, !painter.testRenderHint(QPainter::Antialiasing));
+    const WholePage key{page, size, !painter.testRenderHint(QPainter::Antialiasing)};
+    const QImage *kept = mWholes.find(key);
+    const QImage image = kept ? *kept : whole(key);
     if (image.isNull()) {
         return false;
     }
     if (wanted.size() == size) {
         painter.drawImage(target, image);
-    } else {
-        painter.drawImage(target.topLeft() + wanted.topLeft(), image.copy(wanted));
+        return true;
+    }
+    painter.drawImage(target.topLeft() + wanted.topLeft(), image.copy(wanted));
+    if (!kept) {
+        mWholes.put(key, image);
     }
     return true;
 }

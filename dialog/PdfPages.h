@@ -2,10 +2,12 @@
 #pragma once
 
 #include "dialog/Failure.h"
+#include "dialog/LastTwo.h"
 #include "dialog/PageSource.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QHash>
 #include <QImage>
 #include <QMutex>
 #include <QPdfDocument>
@@ -25,23 +27,35 @@ public:
     static Result<std::shared_ptr<const PageSource>> open(const QByteArray &content,
                                                           const QString &name);
 
-    int pageCount() const override;
+    int pageCount() const override { return mPageCount; }
     QSizeF pageSize(int page) const override;
     bool paint(int page, QPainter &painter, const QRectF &target,
                const QRectF &part) const override;
 
 private:
+    struct WholePage
+    {
+        int page;
+        QSize size;
+        bool hardEdges;
+
+        bool operator==(const WholePage &other) const = default;
+    };
+
     explicit PdfPages(const QByteArray &content);
     QString loadError() const;
-    QImage whole(int page, const QSize &size, bool inParts, bool hardEdges) const;
+    QImage whole(const WholePage &key) const;
 
     mutable QMutex mMutex;
     QBuffer mContent;
     mutable QPdfDocument mDocument;
-    /// The page of which a part was painted last; none after one that was painted at once.
-    mutable QImage mLast;
-    mutable int mLastPage = -1;
-    mutable bool mLastIsHard = false;
+    /// Known from the start: who asks for it does not wait for a page that is being rendered.
+    int mPageCount = 0;
+    /// Sizes that were asked for before, for the same reason; with a lock of their own.
+    mutable QMutex mSizesMutex;
+    mutable QHash<int, QSizeF> mSizes;
+    /// Whole pages of which parts were painted.
+    mutable LastTwo<WholePage, QImage> mWholes;
 };
 
 } // namespace dialog

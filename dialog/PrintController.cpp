@@ -131,6 +131,7 @@ bool PrintController::print(const std::shared_ptr<const DocumentPages> &document
     if (!mSetup || isPrinting()) {
         return false;
     }
+    mPrintedOn = mPrinter;
     mSetup->settings().setTitle(document->title());
     if (const std::optional<Failure> failure = mSetup->finish()) {
         Q_EMIT jobFailed(*failure);
@@ -169,9 +170,9 @@ Result<PrintJob> PrintController::jobFor(const std::shared_ptr<const DocumentPag
 
 QString PrintController::whereIs(int job) const
 {
-    return mPrinter.isFolder
+    return mPrintedOn.isFolder
         ? tr("Printed to the folder %1").arg(FolderPrinter(mFolder.output).pathOf(job))
-        : tr("Sent to %1 as job %2").arg(mPrinter.title()).arg(job);
+        : tr("Sent to %1 as job %2").arg(mPrintedOn.title()).arg(job);
 }
 
 void PrintController::close(bool userCancelled)

@@ -47,6 +47,9 @@ public:
     /// The chosen printer, also while its setup is not ready yet.
     const Printer &printer() const { return mPrinter; }
 
+    /// The printer of the latest job, whatever was chosen since.
+    const Printer &printedOn() const { return mPrintedOn; }
+
     /// Null while there is none.
     PrinterSetup *setup() const { return mSetup.get(); }
 
@@ -88,6 +91,8 @@ private:
     OptionChoices mWishes;
     ExtendedTicket mTicket;
     Printer mPrinter;
+    /// The one that has, or gets, the latest job.
+    Printer mPrintedOn;
     JobSettings mJob;
     PpdFetcher mFetcher;
     JobSender mSender;

@@ -69,6 +69,9 @@ Q_SIGNALS:
 public Q_SLOTS:
     void done(int result) override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QLayout *makePage();
     QWidget *makeSettings();

@@ -14,6 +14,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -279,7 +280,7 @@ void PrintDialog::print()
 
 void PrintDialog::printed(const QString &)
 {
-    Remembered().setLastPrinter(mController.printer().name);
+    Remembered().setLastPrinter(mController.printedOn().name);
     setBusy(false);
     accept();
 }
@@ -297,6 +298,14 @@ void PrintDialog::setBusy(bool busy)
     mPrint->setEnabled(!busy);
     if (!busy) {
         updatePrintButton();
+    }
+}
+
+// Escape stops what is going on in the preview before it closes the window.
+void PrintDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape || !mPreview->stopDots()) {
+        QDialog::keyPressEvent(event);
     }
 }
 

@@ -24,7 +24,7 @@ std::optional<PrintedPage> printedPageOf(PrinterSetup &setup,
     printed.scaling = setup.settings().scaling();
     printed.form = *form;
     // Other queues get the document itself, and know nothing of whole dots.
-    printed.mayHaveWholeDots = !printed.document->pixelSize(0).isEmpty()
+    printed.mayHaveWholeDots = printed.document->hasPixels()
         && (setup.printer().isFolder || hasGraphicsFilter(setup.ppd()->file()));
     return printed;
 }
@@ -33,7 +33,7 @@ std::vector<int> pagesFrom(const PageRanges &ranges, int pageCount, int first)
 {
     std::vector<int> pages;
     for (int page = 0; page < pageCount; ++page) {
-        if (ranges.isAll() || ranges.contains(quint32(page + 1))) {
+        if (ranges.contains(quint32(page + 1))) {
             pages.push_back(page);
         }
     }

@@ -70,7 +70,8 @@ private:
 };
 
 RasterFile::RasterFile()
-    : mFolder(qEnvironmentVariable("TMPDIR", QStringLiteral("/tmp")))
+    : mFolder(qEnvironmentVariableIsEmpty("TMPDIR") ? QStringLiteral("/tmp")
+                                                    : qEnvironmentVariable("TMPDIR"))
     , mFile(mFolder + QStringLiteral("/label-print-XXXXXX"))
 { }
 

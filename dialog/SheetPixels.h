@@ -26,8 +26,9 @@ struct PixelBand
 /// halftoned, and bars and thin letters come out ragged.
 ///
 /// It is rendered in bands that depend on the label alone, so that whoever asks gets the same
-/// pixels, and a long label takes the memory of a band. A value; any thread, a call may have to
-/// wait for another one with the same document.
+/// pixels, and a long label takes the memory of a band; but a page of a PDF document or a drawing
+/// is kept as a whole meanwhile (DocumentPages::kMostPixelsOfPdfPage). A value; any thread, a call
+/// may have to wait for another one with the same document.
 class SheetPixels
 {
 public:

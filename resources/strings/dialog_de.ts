@@ -485,8 +485,8 @@
 <context>
     <name>dialog::DotPictures</name>
     <message>
-        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
-        <translation>Seite %1 hat zu viele Zeilen für eine PNG-Datei; wählen Sie ein kürzeres Etikett oder eine geringere Auflösung</translation>
+        <source>page %1 has too many dots for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>Seite %1 hat zu viele Punkte für eine PNG-Datei; wählen Sie ein kürzeres Etikett oder eine geringere Auflösung</translation>
     </message>
 </context>
 <context>

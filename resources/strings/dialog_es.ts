@@ -485,8 +485,8 @@
 <context>
     <name>dialog::DotPictures</name>
     <message>
-        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
-        <translation>la página %1 tiene demasiadas filas para un archivo PNG; elija una etiqueta más corta o una resolución menor</translation>
+        <source>page %1 has too many dots for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>la página %1 tiene demasiados puntos para un archivo PNG; elija una etiqueta más corta o una resolución menor</translation>
     </message>
 </context>
 <context>

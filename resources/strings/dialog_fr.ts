@@ -485,8 +485,8 @@
 <context>
     <name>dialog::DotPictures</name>
     <message>
-        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
-        <translation>la page %1 a trop de lignes pour un fichier PNG&#xa0;; choisissez une étiquette plus courte ou une résolution plus basse</translation>
+        <source>page %1 has too many dots for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>la page %1 a trop de points pour un fichier PNG&#xa0;; choisissez une étiquette plus courte ou une résolution plus basse</translation>
     </message>
 </context>
 <context>

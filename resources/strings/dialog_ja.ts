@@ -485,8 +485,8 @@
 <context>
     <name>dialog::DotPictures</name>
     <message>
-        <source>page %1 has too many rows for a PNG file; choose a shorter label or a lower resolution</source>
-        <translation>%1 ページは行数が多すぎて PNG ファイルにできません。短いラベルか低い解像度を選んでください</translation>
+        <source>page %1 has too many dots for a PNG file; choose a shorter label or a lower resolution</source>
+        <translation>%1 ページは点が多すぎて PNG ファイルにできません。短いラベルか低い解像度を選んでください</translation>
     </message>
 </context>
 <context>

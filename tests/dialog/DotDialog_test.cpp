@@ -8,6 +8,7 @@
 #include "tests/dialog/DotRequests.h"
 
 #include <QAbstractButton>
+#include <QProgressBar>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -75,6 +76,21 @@ TEST_F(DotDialog, FollowsEveryControlWithoutRenderingThePageAnew)
     EXPECT_EQ(shown.dots->form.settings.method, imaging::HalftoneMethod::Binary);
     EXPECT_EQ(shown.dots->black, plainDotsOf(shown.request).black);
     EXPECT_EQ(bands.rendered, rendered);
+}
+
+TEST_F(DotDialog, EscapeStopsTheDotsBeforeItClosesTheWindow)
+{
+    waitForDots();
+    bands.holds = true;
+    preview().setCurrentPage(1);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find<QProgressBar>("dotProgress")->isVisible(); }));
+    QSlider *slider = find<QSlider>("mBrightnessSlider");
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Escape);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(find<QProgressBar>("dotProgress")->isVisible());
+    QTest::keyClick(slider, Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(DotDialog, PlatesComeWithTheSecondColour)

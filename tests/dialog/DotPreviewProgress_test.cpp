@@ -148,6 +148,7 @@ TEST_F(DotPreview, PageWithMoreDotsThanCanBeMadeIsShownAsItIs)
     preview.setSheet(sheetOf(form), form);
     waitForPage();
     EXPECT_EQ(description(large()), QStringLiteral("Page 1 of 1, its dots 4:1"));
+    EXPECT_EQ(large().dotPixels().width(), form.dots.width() * 4);
 }
 
 TEST_F(DotPreview, WithoutADocumentTheControlsWait)

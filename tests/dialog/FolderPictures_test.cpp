@@ -224,7 +224,7 @@ TEST_F(FolderPictures, PageOfTooManyRowsIsToldWithAWayOut)
     const Failure why = complaint(job);
     EXPECT_EQ(why.what, document->path());
     EXPECT_EQ(why.why,
-              QStringLiteral("page 1 has too many rows for a PNG file; choose a shorter label or a "
+              QStringLiteral("page 1 has too many dots for a PNG file; choose a shorter label or a "
                              "lower resolution"));
     EXPECT_THAT(leftOver(), IsEmpty());
 }
@@ -235,7 +235,7 @@ TEST_F(FolderPictures, PageOfTooManyDotsIsToldWithAWayOut)
     job.dots->form.dots.setHeight(200'000);
     job.dots->form.resolution = QSize(30'000, 30'000);
     EXPECT_THAT(complaint(job).why.toStdString(),
-                HasSubstr("choose a lower resolution or a shorter label"));
+                HasSubstr("choose a shorter label or a lower resolution"));
     EXPECT_THAT(leftOver(), IsEmpty());
 }
 

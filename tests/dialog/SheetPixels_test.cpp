@@ -132,6 +132,24 @@ TEST_F(SheetPixelsTest, ResolutionMayDifferAcrossAndDown)
     EXPECT_EQ(image.pixel(25, 120), qRgb(255, 255, 255));
 }
 
+TEST_F(SheetPixelsTest, LinesOfAPictureStayWhereItShrinksInOneWayOnly)
+{
+    // Grey and black lines in turns; with pixels left out, one kind would be all that is left.
+    QImage lines({40, 80}, QImage::Format_RGB32);
+    for (int y = 0; y < 80; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            lines.setPixel(x, y, y % 4 == 0 ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+        }
+    }
+    DotForm wide = form({80, 20});
+    wide.resolution = QSize(144, 18);
+    const SheetPixels pixels(opened(png(lines, 72)), 0, {QSizeF(40, 80), {}}, Scaling::Fit, wide);
+    const QImage image = asImage(pixels);
+    for (int y = 2; y < 18; ++y) {
+        EXPECT_NEAR(qGray(image.pixel(40, y)), 191, 24) << y;
+    }
+}
+
 TEST_F(SheetPixelsTest, OneColourGetsTheGreyOfEachPixel)
 {
     const QImage image = chequered({50, 80});
