@@ -41,13 +41,23 @@ QString PdfPages::loadError() const
 
 QSizeF PdfPages::pageSize(int page) const
 {
-    const QMutexLocker sizes(&mSizesMutex);
-    const auto known = mSizes.constFind(page);
-    if (known != mSizes.constEnd()) {
-        return *known;
+    {
+        const QMutexLocker sizes(&mSizesMutex);
+        const auto known = mSizes.constFind(page);
+        if (known != mSizes.constEnd()) {
+            return *known;
+        }
     }
+    const QSizeF size = sizeInDocument(page);
+    const QMutexLocker sizes(&mSizesMutex);
+    mSizes.insert(page, size);
+    return size;
+}
+
+QSizeF PdfPages::sizeInDocument(int page) const
+{
     const QMutexLocker lock(&mMutex);
-    return *mSizes.insert(page, mDocument.pagePointSize(page).expandedTo(QSizeF(0, 0)));
+    return mDocument.pagePointSize(page).expandedTo(QSizeF(0, 0));
 }
 
 QImage PdfPages::whole(const WholePage &key) const

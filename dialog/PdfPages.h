@@ -44,6 +44,7 @@ private:
 
     explicit PdfPages(const QByteArray &content);
     QString loadError() const;
+    QSizeF sizeInDocument(int page) const;
     QImage whole(const WholePage &key) const;
 
     mutable QMutex mMutex;
